@@ -1,0 +1,68 @@
+#include "engine/schedule.h"
+
+#include "calendar/era.h"
+#include "runtime/numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace engine {
+namespace {
+
+using runtime::Format;
+using runtime::Round;
+
+std::string twoDigits(std::int64_t n) { return Format(static_cast<double>(n), "00"); }
+
+std::int64_t paymentsToWalk(const LoanRecord& record) {
+    const std::int64_t all = std::min(record.nTimes, kMaxPayments);
+    return record.totalRows < 0 ? all : std::min(record.totalRows, all);
+}
+
+} // namespace
+
+std::optional<std::vector<Row>> scheduleRows(const LoanRecord& record, int era, std::int64_t payDay) {
+    const std::int64_t limit = paymentsToWalk(record);
+    std::vector<Row> rows;
+    if (limit > 0 && record.numTop <= limit)
+        rows.reserve(static_cast<std::size_t>(limit - std::max<std::int64_t>(record.numTop, 1) + 1));
+
+    double balance = record.gankin;
+    double amount = record.hPart;
+    double principal = record.gPart;
+    calendar::Date previous = record.dates.kariire;
+    calendar::Date current = record.dates.start;
+
+    for (std::int64_t i = 0; i < limit; ++i) {
+        const auto days = static_cast<double>(calendar::getDays(previous, current));
+        const double interest = Round((balance * record.rate) * days);
+        if (i == record.nTimes - 1) {
+            principal = balance;
+            amount = balance + interest;
+        } else if (record.isGanri) {
+            principal = amount - interest;
+        } else {
+            amount = principal + interest;
+        }
+        balance -= principal;
+        if (!std::isfinite(amount) || !std::isfinite(principal) || !std::isfinite(balance))
+            return std::nullopt;
+
+        if (record.numTop <= i + 1) {
+            // A row's year shows under the era in force; once it moves on, later rows follow.
+            const auto shown = calendar::displayedEraYear(era, current.Year(), current.Month(), payDay);
+            era = shown.era;
+            rows.push_back({Format(static_cast<double>(i + 1), "000"),
+                            twoDigits(shown.year % 100) + "." + twoDigits(current.Month()) + "." +
+                                twoDigits(current.Day()),
+                            Format(amount, kAmountMask), Format(principal, kAmountMask),
+                            Format(interest, kAmountMask), Format(balance, kAmountMask)});
+        }
+
+        previous = current;
+        current = calendar::setDateFrom(calendar::kWestern, current.Year(), current.Month() + 1, payDay);
+    }
+    return rows;
+}
+
+} // namespace engine

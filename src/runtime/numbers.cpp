@@ -1,0 +1,130 @@
+#include "runtime/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace runtime {
+namespace {
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+// The decimal magnitude of a digit string with an exponent: where its first significant digit
+// stands. Only used to tell overflow from underflow when a number does not fit a double.
+std::int64_t magnitude(std::string_view mantissa, std::int64_t exponent) {
+    const auto point = mantissa.find('.');
+    const std::string_view whole = mantissa.substr(0, point);
+    const auto firstWhole = whole.find_first_not_of('0');
+    if (firstWhole != std::string_view::npos)
+        return exponent + static_cast<std::int64_t>(whole.size() - firstWhole);
+    if (point == std::string_view::npos) return std::numeric_limits<std::int64_t>::min();
+    const std::string_view fraction = mantissa.substr(point + 1);
+    const auto firstFraction = fraction.find_first_not_of('0');
+    if (firstFraction == std::string_view::npos) return std::numeric_limits<std::int64_t>::min();
+    return exponent - static_cast<std::int64_t>(firstFraction);
+}
+
+} // namespace
+
+double Val(std::string_view text) {
+    std::size_t i = 0;
+    while (i < text.size() && isBlank(text[i])) ++i;
+
+    bool negative = false;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) negative = text[i++] == '-';
+
+    const std::size_t start = i;
+    while (i < text.size() && isDigit(text[i])) ++i;
+    bool hasDigits = i > start;
+    if (i < text.size() && text[i] == '.') {
+        const std::size_t afterPoint = ++i;
+        while (i < text.size() && isDigit(text[i])) ++i;
+        hasDigits = hasDigits || i > afterPoint;
+    }
+    if (!hasDigits) return 0.0;
+    std::size_t end = i;
+
+    // An exponent counts only with at least one digit; its value saturates for the magnitude test.
+    std::int64_t exponent = 0;
+    if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+        std::size_t j = i + 1;
+        bool negativeExponent = false;
+        if (j < text.size() && (text[j] == '+' || text[j] == '-'))
+            negativeExponent = text[j++] == '-';
+        const std::size_t exponentStart = j;
+        while (j < text.size() && isDigit(text[j])) {
+            exponent = std::min<std::int64_t>(exponent * 10 + (text[j] - '0'), 1'000'000'000);
+            ++j;
+        }
+        if (j > exponentStart) {
+            end = j;
+            if (negativeExponent) exponent = -exponent;
+        } else {
+            exponent = 0;
+        }
+    }
+
+    const std::string_view number = text.substr(start, end - start);
+    double value = 0.0;
+    const auto [ptr, error] = std::from_chars(number.data(), number.data() + number.size(), value,
+                                              std::chars_format::general);
+    if (error == std::errc::result_out_of_range) {
+        const auto exponentAt = number.find_first_of("eE");
+        const bool overflow = magnitude(number.substr(0, exponentAt), exponent) > 0;
+        value = overflow ? std::numeric_limits<double>::max() : 0.0;
+    } else if (error != std::errc{}) {
+        value = 0.0;
+    }
+    return negative ? -value : value;
+}
+
+std::string Str(std::int64_t value) { return std::to_string(value); }
+
+std::string Str(double value) {
+    if (!std::isfinite(value)) return "0";
+    if (value == 0.0) return "0";
+    if (value == std::trunc(value) && std::fabs(value) < 1e15) return Str(toInt64(value));
+
+    std::array<char, 400> buffer{};
+    const bool plain = std::fabs(value) >= 1e-6 && std::fabs(value) < 1e15;
+    const auto result =
+        plain ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed)
+              : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return std::string(buffer.data(), result.ptr);
+}
+
+std::string Format(double value, std::string_view mask) {
+    const double whole = Round(value);
+    if (!std::isfinite(whole)) return "0";
+
+    // The exact digits of the whole number, without sign.
+    std::array<char, 400> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(whole),
+                                      std::chars_format::fixed, 0);
+    std::string digits(buffer.data(), result.ptr);
+
+    const auto zeros = static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '0'));
+    if (digits.size() < zeros) digits.insert(0, zeros - digits.size(), '0');
+    if (mask.find(',') != std::string_view::npos) {
+        for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
+            digits.insert(static_cast<std::size_t>(at), 1, ',');
+    }
+    return whole < 0.0 ? "-" + digits : digits;
+}
+
+double Round(double value) { return std::round(value); }
+
+double Pow(double base, double exponent) { return std::pow(base, exponent); }
+
+std::int64_t toInt64(double value) {
+    if (std::isnan(value)) return 0;
+    constexpr double limit = 9223372036854775808.0; // 2^63, exactly representable
+    if (value >= limit) return std::numeric_limits<std::int64_t>::max();
+    if (value < -limit) return std::numeric_limits<std::int64_t>::min();
+    return static_cast<std::int64_t>(value);
+}
+
+} // namespace runtime

@@ -1,0 +1,60 @@
+#include "table/export.h"
+
+namespace table {
+namespace {
+
+std::string csvField(const std::string& cell) {
+    if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
+    std::string quoted = "\"";
+    for (const char c : cell) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+std::string htmlEscaped(const std::string& cell) {
+    std::string escaped;
+    for (const char c : cell) {
+        switch (c) {
+        case '&': escaped += "&amp;"; break;
+        case '<': escaped += "&lt;"; break;
+        case '>': escaped += "&gt;"; break;
+        case '"': escaped += "&quot;"; break;
+        default: escaped += c;
+        }
+    }
+    return escaped;
+}
+
+template <typename Cell>
+std::string joined(const std::vector<engine::Row>& rows, Cell cell, std::string_view separator,
+                   std::string_view rowStart, std::string_view rowEnd) {
+    std::string text;
+    for (const auto& row : rows) {
+        text += rowStart;
+        for (std::size_t c = 0; c < row.size(); ++c) {
+            if (c > 0) text += separator;
+            text += cell(row[c]);
+        }
+        text += rowEnd;
+    }
+    return text;
+}
+
+} // namespace
+
+std::string toTsv(const std::vector<engine::Row>& rows) {
+    return joined(rows, [](const std::string& cell) { return cell; }, "\t", "", "\n");
+}
+
+std::string toCsv(const std::vector<engine::Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
+
+std::string toHtml(const std::vector<engine::Row>& rows) {
+    return "<table>" +
+           joined(rows, [](const std::string& cell) { return "<td>" + htmlEscaped(cell) + "</td>"; }, "",
+                  "<tr>", "</tr>") +
+           "</table>";
+}
+
+} // namespace table
