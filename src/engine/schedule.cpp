@@ -12,7 +12,16 @@ namespace {
 using runtime::Format;
 using runtime::Round;
 
-std::string twoDigits(std::int64_t n) { return Format(static_cast<double>(n), "00"); }
+// "24.04.08": the year under its era, the month and the day, two digits each.
+std::string dateCell(std::int64_t year, std::int64_t month, std::int64_t day) {
+    const auto twoDigits = [](std::int64_t n) { return Format(static_cast<double>(n), "00"); };
+    std::string cell = twoDigits(year % 100);
+    cell += '.';
+    cell += twoDigits(month);
+    cell += '.';
+    cell += twoDigits(day);
+    return cell;
+}
 
 std::int64_t paymentsToWalk(const LoanRecord& record) {
     const std::int64_t all = std::min(record.nTimes, kMaxPayments);
@@ -52,11 +61,13 @@ std::optional<std::vector<Row>> scheduleRows(const LoanRecord& record, int era, 
             // A row's year shows under the era in force; once it moves on, later rows follow.
             const auto shown = calendar::displayedEraYear(era, current.Year(), current.Month(), payDay);
             era = shown.era;
-            rows.push_back({Format(static_cast<double>(i + 1), "000"),
-                            twoDigits(shown.year % 100) + "." + twoDigits(current.Month()) + "." +
-                                twoDigits(current.Day()),
-                            Format(amount, kAmountMask), Format(principal, kAmountMask),
-                            Format(interest, kAmountMask), Format(balance, kAmountMask)});
+            Row& row = rows.emplace_back();
+            row[kNumber] = Format(static_cast<double>(i + 1), "000");
+            row[kDate] = dateCell(shown.year, current.Month(), current.Day());
+            row[kAmount] = Format(amount, kAmountMask);
+            row[kPrincipal] = Format(principal, kAmountMask);
+            row[kInterest] = Format(interest, kAmountMask);
+            row[kBalance] = Format(balance, kAmountMask);
         }
 
         previous = current;

@@ -100,19 +100,29 @@ std::string Format(double value, std::string_view mask) {
     const double whole = Round(value);
     if (!std::isfinite(whole)) return "0";
 
-    // The exact digits of the whole number, without sign.
-    std::array<char, 400> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(whole),
-                                      std::chars_format::fixed, 0);
-    std::string digits(buffer.data(), result.ptr);
+    // The exact digits of the whole number, without sign: through int64 where it fits.
+    std::array<char, 400> digits; // written by to_chars before any is read
+    char* const first = digits.data();
+    const double magnitude = std::fabs(whole);
+    const auto written =
+        magnitude < 9.2e18
+            ? std::to_chars(first, first + digits.size(), static_cast<std::uint64_t>(magnitude))
+            : std::to_chars(first, first + digits.size(), magnitude, std::chars_format::fixed, 0);
+    const auto count = static_cast<std::size_t>(written.ptr - first);
 
     const auto zeros = static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '0'));
-    if (digits.size() < zeros) digits.insert(0, zeros - digits.size(), '0');
-    if (mask.find(',') != std::string_view::npos) {
-        for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3)
-            digits.insert(static_cast<std::size_t>(at), 1, ',');
+    const std::size_t padded = std::max(count, zeros);
+    const bool grouped = mask.find(',') != std::string_view::npos;
+
+    // Sign, padding zeros, digits and separators, written once into a buffer of their own.
+    std::array<char, 2 * digits.size()> text; // written before any is read
+    std::size_t length = 0;
+    if (whole < 0.0) text[length++] = '-';
+    for (std::size_t i = 0; i < padded; ++i) {
+        if (grouped && i > 0 && (padded - i) % 3 == 0) text[length++] = ',';
+        text[length++] = i < padded - count ? '0' : digits[i - (padded - count)];
     }
-    return whole < 0.0 ? "-" + digits : digits;
+    return std::string(text.data(), length);
 }
 
 double Round(double value) { return std::round(value); }
