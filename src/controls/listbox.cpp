@@ -1,0 +1,178 @@
+#include "controls/listbox.h"
+
+#include "controls/schedulemodel.h"
+#include "table/export.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+
+namespace controls {
+namespace {
+
+bool isTableCommand(const QKeyEvent* key) {
+    return key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll);
+}
+
+QByteArray bytes(const std::string& text) { return QByteArray::fromStdString(text); }
+
+} // namespace
+
+ListBox::ListBox(QWidget* parent) : QTableView(parent), m_model(new ScheduleModel(this)) {
+    setModel(m_model);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setSortingEnabled(false);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    horizontalHeader()->setSectionsMovable(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    viewport()->installEventFilter(this);
+    horizontalHeader()->viewport()->installEventFilter(this);
+
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListBox::selectionWasChanged);
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { m_selectedRows.reset(); });
+}
+
+void ListBox::setHeadings(const QStringList& headings) { m_model->setHeadings(headings); }
+
+void ListBox::setColumnWidths(const std::vector<std::optional<int>>& percentages) {
+    m_columnPercentages = percentages;
+    applyColumnWidths();
+}
+
+const std::string& ListBox::Cell(int row, int column) const {
+    return m_model->row(row)[static_cast<std::size_t>(column)];
+}
+
+const engine::Row& ListBox::RowCells(int row) const { return m_model->row(row); }
+
+int ListBox::ListCount() const { return m_model->rowCount(); }
+
+void ListBox::DeleteAllRows() {
+    const bool hadSelection = SelCount() > 0;
+    m_model->setRows({});
+    if (hadSelection) emit Change();
+}
+
+void ListBox::setRows(std::vector<engine::Row> rows) { m_model->setRows(std::move(rows)); }
+
+int ListBox::ListIndex() const {
+    const auto& rows = SelectedRows();
+    return rows.empty() ? -1 : rows.front();
+}
+
+void ListBox::setListIndex(int row) {
+    if (row < 0 || row >= ListCount()) {
+        clearSelection();
+        return;
+    }
+    const QModelIndex index = m_model->index(row, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
+}
+
+int ListBox::SelCount() const { return static_cast<int>(SelectedRows().size()); }
+
+bool ListBox::Selected(int row) const { return selectionModel()->isRowSelected(row, {}); }
+
+const std::vector<int>& ListBox::SelectedRows() const {
+    if (!m_selectedRows) {
+        // Ranges of a selection may overlap: mark each row once, then list them in order.
+        std::vector<char> marked(static_cast<std::size_t>(ListCount()), 0);
+        for (const QItemSelectionRange& range : selectionModel()->selection())
+            for (int r = range.top(); r <= range.bottom(); ++r) marked[static_cast<std::size_t>(r)] = 1;
+        m_selectedRows.emplace();
+        for (std::size_t r = 0; r < marked.size(); ++r)
+            if (marked[r]) m_selectedRows->push_back(static_cast<int>(r));
+    }
+    return *m_selectedRows;
+}
+
+void ListBox::selectAllRows() {
+    if (ListCount() == 0) return;
+    const QItemSelection all(m_model->index(0, 0), m_model->index(ListCount() - 1, m_model->columnCount() - 1));
+    selectionModel()->select(all, QItemSelectionModel::Select);
+}
+
+void ListBox::copySelection() const {
+    std::vector<engine::Row> rows;
+    for (const int r : SelectedRows()) rows.push_back(m_model->row(r));
+    if (rows.empty()) return;
+    auto* mime = new QMimeData;
+    mime->setText(QString::fromStdString(table::toTsv(rows)));
+    mime->setData("text/csv", bytes(table::toCsv(rows)));
+    mime->setHtml(QString::fromStdString(table::toHtml(rows)));
+    QGuiApplication::clipboard()->setMimeData(mime);
+}
+
+bool ListBox::event(QEvent* event) {
+    // Claim Copy and Select All before the window's shortcuts do, so the table answers them.
+    if (event->type() == QEvent::ShortcutOverride && isTableCommand(static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        copySelection();
+    } else if (event->matches(QKeySequence::SelectAll)) {
+        emit SelectAllRequested();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool ListBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick)
+        return QTableView::eventFilter(watched, event);
+    auto* widget = static_cast<QWidget*>(watched);
+    const QPoint local = static_cast<QMouseEvent*>(event)->position().toPoint();
+    const QPoint onControl = widget->mapTo(this, local);
+    if (MouseDown && MouseDown(onControl.x(), onControl.y())) return true;
+    if (widget == horizontalHeader()->viewport() && HeaderPressed &&
+        HeaderPressed(horizontalHeader()->logicalIndexAt(local)))
+        return true;
+    return QTableView::eventFilter(watched, event);
+}
+
+void ListBox::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    applyColumnWidths();
+}
+
+void ListBox::applyColumnWidths() {
+    if (m_columnPercentages.empty()) return;
+    const int total = viewport()->width();
+    int fixed = 0;
+    int shared = 0;
+    for (const auto& percentage : m_columnPercentages) {
+        if (percentage)
+            fixed += total * *percentage / 100;
+        else
+            ++shared;
+    }
+    const int share = shared > 0 ? (total - fixed) / shared : 0;
+    for (int column = 0; column < static_cast<int>(m_columnPercentages.size()); ++column) {
+        const auto& percentage = m_columnPercentages[static_cast<std::size_t>(column)];
+        setColumnWidth(column, percentage ? total * *percentage / 100 : share);
+    }
+}
+
+void ListBox::selectionWasChanged() {
+    m_selectedRows.reset();
+    emit Change();
+}
+
+} // namespace controls

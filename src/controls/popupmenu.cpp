@@ -1,0 +1,9 @@
+#include "controls/popupmenu.h"
+
+namespace controls {
+
+PopupMenu::PopupMenu(QWidget* parent) : QComboBox(parent) {
+    connect(this, &QComboBox::currentIndexChanged, this, &PopupMenu::Change);
+}
+
+} // namespace controls

@@ -1,0 +1,9 @@
+#include "controls/pushbutton.h"
+
+namespace controls {
+
+PushButton::PushButton(QWidget* parent) : QPushButton(parent) {
+    connect(this, &QPushButton::clicked, this, &PushButton::Action);
+}
+
+} // namespace controls

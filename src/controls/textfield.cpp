@@ -1,0 +1,35 @@
+#include "controls/textfield.h"
+
+#include <QFocusEvent>
+
+namespace controls {
+namespace {
+
+// Focus that only follows the window's activation or a popup is no visit of the field.
+bool isPassing(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+} // namespace
+
+TextField::TextField(QWidget* parent) : QLineEdit(parent) {}
+
+void TextField::setText(std::string_view text) {
+    QLineEdit::setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void TextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (m_hasFocus || isPassing(event->reason())) return;
+    m_hasFocus = true;
+    emit GotFocus();
+}
+
+void TextField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (!m_hasFocus || isPassing(event->reason())) return;
+    m_hasFocus = false;
+    emit LostFocus();
+}
+
+} // namespace controls

@@ -1,0 +1,34 @@
+#pragma once
+// A one-line text field with GotFocus and LostFocus, as the form's handlers expect them: the
+// LostFocus of the field being left comes before the GotFocus of the next; writing the text from
+// code raises neither; and switching to another window or opening a popup over the field is not
+// a loss of focus, so it raises nothing.
+
+#include <QLineEdit>
+
+#include <string>
+#include <string_view>
+
+namespace controls {
+
+class TextField : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit TextField(QWidget* parent = nullptr);
+
+    std::string Text() const { return text().toStdString(); }
+    void setText(std::string_view text);
+
+signals:
+    void GotFocus();
+    void LostFocus();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool m_hasFocus = false; // GotFocus raised and LostFocus not yet
+};
+
+} // namespace controls

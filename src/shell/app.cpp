@@ -1,0 +1,81 @@
+#include "shell/app.h"
+
+#include "controls/bevelbutton.h"
+#include "shell/aboutwindow.h"
+#include "shell/helpwindow.h"
+#include "shell/mainwindow.h"
+#include "shell/menubar.h"
+#include "strings/lookup.h"
+
+#include <QIcon>
+#include <QLocale>
+#include <QMenuBar>
+
+namespace shell {
+
+App::App(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName("kestrune");
+    setApplicationVersion(ShortVersion);
+    setDesktopFileName("kestrune");
+    QIcon icon;
+    for (const int size : {16, 32, 48, 64, 128, 256}) icon.addFile(QString(":/icons/kestrune-%1.png").arg(size));
+    setWindowIcon(icon);
+    setQuitOnLastWindowClosed(true);
+    loadTranslation();
+    setApplicationDisplayName(strings::text(strings::kAppName));
+#ifdef Q_OS_MACOS
+    // The menu bar macOS shows while no window is open, so that New still works.
+    m_menuBarWithoutWindow = new QMenuBar(nullptr);
+    buildMenuBar(m_menuBarWithoutWindow, nullptr);
+#endif
+}
+
+App::~App() {
+    delete m_menuBarWithoutWindow;
+    delete m_help;
+    delete m_about;
+}
+
+void App::loadTranslation() {
+    if (m_translator.load(QLocale(), "kestrune", "_", ":/i18n")) installTranslator(&m_translator);
+}
+
+bool App::_FileNew_Action() {
+    if (isExistHelp) {
+        if (MainWindow* parent = helpWindow()->parentWin) parent->HelpBtn->setValue(false);
+        helpWindow()->hide();
+        isExistHelp = false;
+    }
+    const QList<MainWindow*> windows = mainWindows();
+    MainWindow* const source = windows.isEmpty() ? nullptr : windows.front();
+    auto* window = new MainWindow;
+    if (source) window->copyFormFrom(*source);
+    window->show();
+    return true;
+}
+
+HelpWindow* App::helpWindow() {
+    if (!m_help) m_help = new HelpWindow;
+    return m_help;
+}
+
+AboutWindow* App::aboutWindow() {
+    if (!m_about) m_about = new AboutWindow;
+    return m_about;
+}
+
+QList<MainWindow*> App::mainWindows() const {
+    QList<MainWindow*> windows;
+    for (const auto& window : m_windows)
+        if (window) windows.append(window);
+    return windows;
+}
+
+void App::addMainWindow(MainWindow* window) { m_windows.append(window); }
+
+void App::mainWindowActivated(MainWindow* window) {
+    m_windows.removeAll(window);
+    m_windows.prepend(window);
+}
+
+} // namespace shell

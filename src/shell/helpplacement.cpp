@@ -1,0 +1,10 @@
+#include "shell/helpplacement.h"
+
+namespace shell {
+
+int helpWindowLeft(int mainLeft, int mainWidth, int helpWidth, int screenWidth) {
+    if (mainLeft + mainWidth + helpWidth < screenWidth) return mainLeft + mainWidth;
+    return mainLeft - helpWidth;
+}
+
+} // namespace shell

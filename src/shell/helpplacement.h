@@ -1,0 +1,9 @@
+#pragma once
+// Where the help window stands beside a main window: flush right where the screen has room,
+// else flush left (whether or not that is on the screen).
+
+namespace shell {
+
+int helpWindowLeft(int mainLeft, int mainWidth, int helpWidth, int screenWidth);
+
+} // namespace shell

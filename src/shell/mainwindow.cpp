@@ -1,0 +1,641 @@
+#include "shell/mainwindow.h"
+
+#include "calendar/datefields.h"
+#include "controls/bevelbutton.h"
+#include "controls/listbox.h"
+#include "controls/locks.h"
+#include "controls/popupmenu.h"
+#include "controls/pushbutton.h"
+#include "controls/textfield.h"
+#include "form/amountfields.h"
+#include "runtime/numbers.h"
+#include "shell/aboutwindow.h"
+#include "shell/app.h"
+#include "shell/helpplacement.h"
+#include "shell/helpwindow.h"
+#include "shell/menubar.h"
+#include "strings/lookup.h"
+#include "table/recombination.h"
+#include "table/selectionsum.h"
+
+#include <QCloseEvent>
+#include <QDate>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QScreen>
+
+namespace shell {
+
+using controls::BevelButton;
+using controls::Lock;
+using strings::text;
+
+namespace {
+
+constexpr QSize kDesignSize{485, 640};
+constexpr QSize kMinimumSize{485, 250};
+constexpr std::int64_t kReiwaBase = 2018;
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+std::string str(const QString& s) { return s.toStdString(); }
+
+} // namespace
+
+// ---------------------------------------------------------------------------------------------
+// Construction
+
+MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(text(strings::kAppName));
+    buildMenuBar(menuBar(), this);
+
+    auto* form = new controls::LockedLayoutWidget(kDesignSize, this);
+    form->setMinimumSize(kMinimumSize);
+    setCentralWidget(form);
+    createControls(form);
+    resize(kDesignSize.width(), kDesignSize.height() + menuBar()->sizeHint().height());
+    setTabOrder();
+    App::instance()->addMainWindow(this);
+
+    KindPopup_Open();
+    ListBox1_Open();
+    RekiKind_Open();
+    DelayPop_Open();
+    GankinField_Open();
+    Shokai_Open();
+    bindHandlers();
+    Event_Open();
+}
+
+void MainWindow::createControls(controls::LockedLayoutWidget* form) {
+    const auto label = [&](int index, const strings::Constant& caption, QRect rect, Qt::Alignment align) {
+        auto* l = new QLabel(text(caption), form);
+        l->setAlignment(align | Qt::AlignVCenter);
+        form->place(l, rect);
+        LabelText[index] = l;
+        return l;
+    };
+    const auto field = [&](const char* name, const char* initial, QRect rect) {
+        auto* f = new controls::TextField(form);
+        f->setObjectName(name);
+        f->setText(initial);
+        f->setAlignment(Qt::AlignCenter);
+        form->place(f, rect);
+        return f;
+    };
+    const auto bevel = [&](const char* name, BevelButton::Style style, const strings::Constant& caption,
+                           QRect rect, controls::Locks locks = controls::Locks(Lock::Left) | Lock::Top) {
+        auto* b = new BevelButton(style, form);
+        b->setObjectName(name);
+        b->setCaption(text(caption));
+        form->place(b, rect, locks);
+        return b;
+    };
+
+    Rectangle1 = new QFrame(form);
+    Rectangle1->setObjectName("Rectangle1");
+    Rectangle1->setFrameShape(QFrame::Box);
+    Rectangle1->setStyleSheet("QFrame#Rectangle1 { border: 1px solid #999999; background: white; }");
+    form->place(Rectangle1, {80, 114, 35, 22});
+    SelNum = new QLabel("0", Rectangle1);
+    SelNum->setAlignment(Qt::AlignCenter);
+    (new QHBoxLayout(Rectangle1))->setContentsMargins(0, 0, 0, 0);
+    Rectangle1->layout()->addWidget(SelNum);
+
+    label(0, strings::kLabelText0, {20, 23, 56, 20}, Qt::AlignLeft)
+        ->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label(1, strings::kLabelText1, {168, 23, 38, 20}, Qt::AlignRight);
+    label(2, strings::kLabelText2, {244, 23, 42, 20}, Qt::AlignRight);
+    label(3, strings::kLabelText3, {304, 55, 62, 20}, Qt::AlignRight);
+    label(4, strings::kYear, {194, 55, 15, 20}, Qt::AlignHCenter);
+    label(5, strings::kMonth, {237, 55, 15, 20}, Qt::AlignHCenter);
+    label(6, strings::kDay, {279, 55, 15, 20}, Qt::AlignRight);
+    label(7, strings::kLabelText7, {20, 116, 58, 20}, Qt::AlignLeft);
+
+    GankinField = field("GankinField", "100000000", {77, 21, 88, 22});
+    Nenriritsu = field("Nenriritsu", "2.0", {207, 21, 34, 22});
+    Kaisu = field("Kaisu", "144", {290, 21, 32, 22});
+    StartY = field("StartY", "02", {153, 53, 40, 22});
+    StartM = field("StartM", "3", {211, 53, 25, 22});
+    StartD = field("StartD", "15", {253, 53, 25, 22});
+
+    KindPopup = new controls::PopupMenu(form);
+    KindPopup->setObjectName("KindPopup");
+    KindPopup->addItems({text(strings::kGanri), text(strings::kGankin)});
+    KindPopup->setCurrentIndex(1);
+    form->place(KindPopup, {279, 85, 123, 20});
+
+    CulcButton = new controls::PushButton(form);
+    CulcButton->setObjectName("CulcButton");
+    CulcButton->setText(text(strings::kCulc));
+    CulcButton->setDefault(true);
+    form->place(CulcButton, {408, 82, 57, 58}, controls::Locks(Lock::Top) | Lock::Right);
+
+    ListBox1 = new controls::ListBox(form);
+    ListBox1->setObjectName("ListBox1");
+    form->place(ListBox1, {20, 146, 445, 440}, controls::Locks(Lock::Left) | Lock::Top | Lock::Right | Lock::Bottom);
+
+    RisokuTotal = new QLineEdit("0", form);
+    RisokuTotal->setObjectName("RisokuTotal");
+    RisokuTotal->setReadOnly(true);
+    RisokuTotal->setAlignment(Qt::AlignCenter);
+    form->place(RisokuTotal, {177, 114, 113, 22});
+
+    SelectAllButton = bevel("SelectAllButton", BevelButton::Style::Toggle, strings::kSelectAll, {297, 114, 106, 22});
+    RekiKind = bevel("RekiKind", BevelButton::Style::Menu, strings::kRekiR, {89, 53, 62, 22});
+    label(8, strings::kLabelText8, {118, 116, 52, 20}, Qt::AlignRight);
+
+    const controls::Locks bottom = controls::Locks(Lock::Left) | Lock::Bottom;
+    BevelNewNext = bevel("BevelNewNext", BevelButton::Style::Push, strings::kNewNext, {20, 598, 140, 22}, bottom);
+    BevelDispAll = bevel("BevelDispAll", BevelButton::Style::Push, strings::kShowPayoffButton, {172, 598, 140, 22}, bottom);
+    BevelDelBelow = bevel("BevelDelBelow", BevelButton::Style::Push, strings::kHideBelowButton, {324, 598, 140, 22}, bottom);
+    BevelNewNext->setToolTip(text(strings::kNewNextTip));
+    BevelDispAll->setToolTip(text(strings::kShowPayoffTip));
+    BevelDelBelow->setToolTip(text(strings::kHideBelowTip));
+    for (BevelButton* b : {BevelNewNext, BevelDispAll, BevelDelBelow}) b->setEnabled(false);
+
+    label(9, strings::kLabelText9, {330, 23, 30, 20}, Qt::AlignRight)->setToolTip(text(strings::kLabel9tip));
+    Shokai = field("Shokai", "1", {361, 21, 40, 22});
+    Shokai->setToolTip(QStringLiteral("表示対象先頭行の回数"));
+    label(10, strings::kLabelText10, {20, 85, 59, 20}, Qt::AlignLeft);
+    Kansai = new QLabel(form);
+    Kansai->setObjectName("Kansai");
+    Kansai->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->place(Kansai, {89, 85, 128, 20});
+    label(11, strings::kLabelText11, {20, 55, 64, 20}, Qt::AlignLeft);
+    label(14, strings::kDay_th, {447, 55, 15, 20}, Qt::AlignRight);
+    StartDX = field("StartDX", "8", {423, 53, 25, 22});
+    HelpBtn = bevel("HelpBtn", BevelButton::Style::Toggle, strings::kHelpButton, {408, 21, 55, 22},
+                    controls::Locks(Lock::Top) | Lock::Right);
+    DelayPop = bevel("DelayPop", BevelButton::Style::Menu, strings::kNext, {370, 53, 50, 22});
+}
+
+void MainWindow::setTabOrder() {
+    // The input fields in reading order, then the table, then the other controls.
+    const QWidget* const order[] = {GankinField, Nenriritsu, Kaisu, Shokai, StartY, StartM, StartD, StartDX,
+                                    ListBox1, RisokuTotal, SelectAllButton, BevelNewNext, BevelDispAll,
+                                    BevelDelBelow, RekiKind, DelayPop, KindPopup, CulcButton, HelpBtn};
+    for (std::size_t i = 0; i + 1 < std::size(order); ++i)
+        QWidget::setTabOrder(const_cast<QWidget*>(order[i]), const_cast<QWidget*>(order[i + 1]));
+}
+
+void MainWindow::rememberTextOnFocus(controls::TextField* field) {
+    connect(field, &controls::TextField::GotFocus, this, [this, field] { curText = field->Text(); });
+}
+
+void MainWindow::bindHandlers() {
+    using controls::TextField;
+    connect(GankinField, &TextField::GotFocus, this, &MainWindow::GankinField_GotFocus);
+    connect(GankinField, &TextField::LostFocus, this, &MainWindow::GankinField_LostFocus);
+    for (TextField* f : {Nenriritsu, Kaisu, Shokai, StartY, StartM, StartD, StartDX}) rememberTextOnFocus(f);
+    connect(Nenriritsu, &TextField::LostFocus, this, &MainWindow::Nenriritsu_LostFocus);
+    connect(Kaisu, &TextField::LostFocus, this, &MainWindow::Kaisu_LostFocus);
+    connect(Shokai, &TextField::LostFocus, this, &MainWindow::Shokai_LostFocus);
+    connect(StartY, &TextField::LostFocus, this, &MainWindow::StartY_LostFocus);
+    connect(StartM, &TextField::LostFocus, this, &MainWindow::StartM_LostFocus);
+    connect(StartD, &TextField::LostFocus, this, &MainWindow::StartD_LostFocus);
+    connect(StartDX, &TextField::LostFocus, this, &MainWindow::StartDX_LostFocus);
+    // Return in a field of the form presses the default button.
+    for (TextField* f : {GankinField, Nenriritsu, Kaisu, Shokai, StartY, StartM, StartD, StartDX})
+        connect(f, &QLineEdit::returnPressed, CulcButton, &controls::PushButton::Push);
+
+    connect(RekiKind, &BevelButton::Action, this, &MainWindow::RekiKind_Action);
+    connect(DelayPop, &BevelButton::Action, this, &MainWindow::DelayPop_Action);
+    connect(KindPopup, &controls::PopupMenu::Change, this, &MainWindow::KindPopup_Change);
+    connect(CulcButton, &controls::PushButton::Action, this, &MainWindow::CulcButton_Action);
+    connect(ListBox1, &controls::ListBox::Change, this, &MainWindow::ListBox1_Change);
+    connect(ListBox1, &controls::ListBox::SelectAllRequested, this, &MainWindow::_EditSelectAll_Action);
+    ListBox1->MouseDown = [this](int x, int y) { return ListBox1_MouseDown(x, y); };
+    ListBox1->HeaderPressed = [this](int column) { return ListBox1_HeaderPressed(column); };
+    connect(SelectAllButton, &BevelButton::Action, this, &MainWindow::SelectAllButton_Action);
+    connect(BevelDispAll, &BevelButton::Action, this, &MainWindow::BevelDispAll_Action);
+    connect(BevelDelBelow, &BevelButton::Action, this, &MainWindow::BevelDelBelow_Action);
+    connect(BevelNewNext, &BevelButton::Action, this, &MainWindow::BevelNewNext_Action);
+    connect(HelpBtn, &BevelButton::Action, this, &MainWindow::HelpBtn_Action);
+}
+
+void MainWindow::copyFormFrom(const MainWindow& source) {
+    GankinField->setText(source.GankinField->Text());
+    Nenriritsu->setText(source.Nenriritsu->Text());
+    Kaisu->setText(source.Kaisu->Text());
+    Shokai->setText(source.Shokai->Text());
+    RekiKind->setMenuValue(source.RekiKind->MenuValue());
+    RekiKind->setCaption(source.RekiKind->Caption());
+    StartY->setText(source.StartY->Text());
+    StartM->setText(source.StartM->Text());
+    StartD->setText(source.StartD->Text());
+    const bool methodChanges = KindPopup->ListIndex() != source.KindPopup->ListIndex();
+    KindPopup->setListIndex(source.KindPopup->ListIndex());
+    // Where the method stays, no Change recalculates: the copied form still needs its table.
+    if (!methodChanges) CulcButton->Push();
+    resize(source.size());
+}
+
+// ---------------------------------------------------------------------------------------------
+// The window
+
+void MainWindow::Event_Open() {
+    const QDate today = QDate::currentDate();
+    if (App::instance()->mainWindows().size() == 1) {
+        StartY->setText(runtime::Str(static_cast<std::int64_t>(today.year()) - kReiwaBase));
+        StartM->setText(runtime::Str(static_cast<std::int64_t>(today.month())));
+        StartD->setText(runtime::Str(static_cast<std::int64_t>(today.day())));
+        setWindowTitle(KindPopup->Text() + text(strings::kCulc));
+    }
+    totalRows = -1;
+    GankinField->setFocus();
+    CulcButton->Push();
+}
+
+void MainWindow::Event_Resized() { ListBox1->setFocus(Qt::OtherFocusReason); }
+
+void MainWindow::Event_Close() {
+    if (App::instance()->isExistHelp && App::instance()->hasHelpWindow()) App::instance()->helpWindow()->hide();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    Event_Resized();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    Event_Close();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) App::instance()->mainWindowActivated(this);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Calculation
+
+engine::LoanForm MainWindow::loanForm() const {
+    engine::LoanForm form;
+    form.principal = GankinField->Text();
+    form.rate = Nenriritsu->Text();
+    form.times = Kaisu->Text();
+    form.era = RekiKind->MenuValue();
+    form.date = {StartY->Text(), StartM->Text(), StartD->Text(), StartDX->Text()};
+    form.delay = DelayPop->MenuValue();
+    form.isGanri = isGanri;
+    form.numTop = numTop;
+    form.totalRows = totalRows;
+    return form;
+}
+
+void MainWindow::CulcButton_Action() {
+    ++m_actionRuns;
+    if (!engine::passesZeroTest(loanForm())) return QApplication::beep();
+    const bool allSelected = SelectAllButton->Value();
+    const auto calc = culcFixedAmount();
+    if (!calc) return;
+    setKansaiText(*calc);
+    record = calc->record;
+    setList(calc->rows);
+    if (allSelected) {
+        SelectAllButton->setValue(true);
+        selectAllRows();
+    } else {
+        optSelectBtnState();
+    }
+}
+
+std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
+    // Moving the focus to the table ends an edit in progress: the field's LostFocus corrects
+    // its text and, where it changed, runs a calculation of its own from the corrected form.
+    const int runsBefore = m_actionRuns;
+    ListBox1->setFocus(Qt::OtherFocusReason);
+    if (m_actionRuns != runsBefore) return std::nullopt;
+
+    calendar::PayoffWords words;
+    words.eraNames = {"", str(text(strings::kRekiS)), str(text(strings::kRekiH)), str(text(strings::kRekiR))};
+    words.year = str(text(strings::kYear));
+    words.month = str(text(strings::kMonth));
+    words.day = str(text(strings::kDay));
+    engine::Calculation calc = engine::calculate(loanForm(), words);
+    if (calc.refusal != engine::Refusal::None) {
+        QApplication::beep();
+        return std::nullopt;
+    }
+    return calc;
+}
+
+void MainWindow::setKansaiText(const engine::Calculation& calc) { Kansai->setText(qs(calc.payoffText)); }
+
+void MainWindow::setList(std::vector<engine::Row> rows) {
+    ListBox1->DeleteAllRows();
+    ListBox1->setRows(std::move(rows));
+}
+
+// ---------------------------------------------------------------------------------------------
+// Method popup
+
+void MainWindow::KindPopup_Open() { isGanri = KindPopup->ListIndex() == 0; }
+
+void MainWindow::KindPopup_Change() {
+    setWindowTitle(KindPopup->Text() + text(strings::kCulc));
+    isGanri = KindPopup->ListIndex() == 0;
+    CulcButton->Push();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Era and date line
+
+void MainWindow::showEra(int era) {
+    static constexpr const strings::Constant* kEraNames[] = {&strings::kRekiXst, &strings::kRekiS,
+                                                             &strings::kRekiH, &strings::kRekiR};
+    RekiKind->setMenuValue(era);
+    RekiKind->setCaption(text(*kEraNames[era]));
+}
+
+void MainWindow::RekiKind_Open() {
+    for (const QString& item : strings::fields(strings::kRekiCombination, ',')) RekiKind->AddRow(item);
+    RekiKind->setMenuValue(calendar::kReiwa);
+    RekiKind->setCaption(RekiKind->List(calendar::kReiwa));
+}
+
+void MainWindow::RekiKind_Action() {
+    const QString oldCaption = RekiKind->Caption();
+    const int choice = RekiKind->MenuValue();
+    if (choice >= calendar::kWestern && choice < calendar::kEraCount) {
+        RekiKind->setCaption(RekiKind->List(choice));
+        optSeireki();
+        CulcButton->Push();
+        return;
+    }
+    // "XC<->JC": the caption in force says which way to convert.
+    int oldEra = calendar::kWestern;
+    for (int era = calendar::kShowa; era < calendar::kEraCount; ++era)
+        if (oldCaption == RekiKind->List(era)) oldEra = era;
+    const auto converted = calendar::convertCalendar(oldEra, calendar::readYear(StartY->Text()),
+                                                     runtime::intVal(StartM->Text()), runtime::intVal(StartD->Text()));
+    RekiKind->setMenuValue(converted.era);
+    RekiKind->setCaption(RekiKind->List(converted.era));
+    StartY->setText(runtime::Str(converted.year));
+    CulcButton->Push();
+}
+
+void MainWindow::optSeireki() {
+    if (RekiKind->MenuValue() == calendar::kWestern) return;
+    const auto field = calendar::correctYearField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    if (!field.era) return;
+    showEra(*field.era);
+    StartY->setText(field.year);
+}
+
+void MainWindow::optStartY() {
+    const auto field = calendar::correctYearField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    if (field.era) showEra(*field.era);
+    StartY->setText(field.year);
+}
+
+void MainWindow::StartY_LostFocus() {
+    optStartY();
+    if (curText != StartY->Text()) CulcButton->Push();
+}
+
+void MainWindow::StartM_LostFocus() {
+    const auto field = calendar::correctMonthField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    if (field.day) StartD->setText(*field.day);
+    if (field.month) StartM->setText(*field.month);
+    optStartY();
+    if (curText != StartM->Text()) CulcButton->Push();
+}
+
+void MainWindow::StartD_LostFocus() {
+    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()}))
+        StartD->setText(*day);
+    optStartY();
+    if (curText != StartD->Text()) CulcButton->Push();
+}
+
+void MainWindow::StartDX_LostFocus() {
+    StartDX->setText(calendar::payDayText(StartDX->Text()));
+    if (curText != StartDX->Text()) CulcButton->Push();
+}
+
+void MainWindow::DelayPop_Open() {
+    const QString items = QStringList{text(strings::kNext), text(strings::k2After), text(strings::k3After)}.join(',');
+    for (const QString& item : items.split(',')) DelayPop->AddRow(item);
+    DelayPop->setMenuValue(calendar::kNext);
+    DelayPop->setCaption(DelayPop->List(calendar::kNext));
+}
+
+void MainWindow::DelayPop_Action() {
+    const QString oldCaption = DelayPop->Caption();
+    DelayPop->setCaption(DelayPop->List(DelayPop->MenuValue()));
+    if (DelayPop->Caption() != oldCaption) CulcButton->Push();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Amount fields
+
+void MainWindow::GankinField_Open() { GankinField->setText(form::principalForDisplay(GankinField->Text())); }
+
+void MainWindow::GankinField_GotFocus() {
+    GankinField->setText(form::principalForEditing(GankinField->Text()));
+    curText = GankinField->Text();
+}
+
+void MainWindow::GankinField_LostFocus() {
+    const std::string plain = form::principalForEditing(GankinField->Text());
+    GankinField->setText(form::principalForDisplay(plain));
+    if (curText != plain) CulcButton->Push();
+}
+
+void MainWindow::Nenriritsu_LostFocus() {
+    Nenriritsu->setText(form::plainNumber(Nenriritsu->Text()));
+    if (curText != Nenriritsu->Text()) CulcButton->Push();
+}
+
+void MainWindow::Kaisu_LostFocus() {
+    Kaisu->setText(form::countText(Kaisu->Text()));
+    if (curText != Kaisu->Text()) CulcButton->Push();
+}
+
+void MainWindow::Shokai_Open() { numTop = runtime::intVal(Shokai->Text()); }
+
+void MainWindow::Shokai_LostFocus() {
+    Shokai->setText(form::plainNumber(Shokai->Text()));
+    if (Shokai->Text() == curText) return;
+    const form::FirstRow first = form::firstRow(Shokai->Text(), Kaisu->Text());
+    Shokai->setText(first.text);
+    numTop = first.number;
+    // A cut that ends before the new first row would leave no row: it goes.
+    const int count = ListBox1->ListCount();
+    const double last = count > 0 ? runtime::Val(ListBox1->Cell(count - 1, engine::kNumber)) : 0.0;
+    if (static_cast<double>(numTop) > last) prepareShowAll();
+    CulcButton->Push();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Table
+
+void MainWindow::ListBox1_Open() {
+    ListBox1->setHeadings(strings::fields(strings::kHeader, '\t'));
+    ListBox1->setColumnWidths({10, 17, std::nullopt, std::nullopt, std::nullopt, 23});
+}
+
+bool MainWindow::ListBox1_MouseDown(int /*x*/, int y) { return y < 17; }
+
+bool MainWindow::ListBox1_HeaderPressed(int /*column*/) { return true; }
+
+void MainWindow::ListBox1_Change() {
+    const int selected = ListBox1->SelCount();
+    BevelNewNext->setEnabled(selected == 1);
+    BevelDelBelow->setEnabled(selected == 1);
+    BevelDispAll->setEnabled(totalRows >= 0);
+    table::SelectionSum sum;
+    for (const int row : ListBox1->SelectedRows()) sum.add(ListBox1->Cell(row, engine::kInterest));
+    RisokuTotal->setText(qs(sum.totalText()));
+    SelNum->setText(qs(sum.countText()));
+    optSelectBtnState();
+}
+
+void MainWindow::SelectAllButton_Action() {
+    if (SelectAllButton->Value())
+        selectAllRows();
+    else
+        ListBox1->setListIndex(-1);
+}
+
+void MainWindow::selectAllRows() { ListBox1->selectAllRows(); }
+
+void MainWindow::optSelectBtnState() {
+    const bool all = ListBox1->SelCount() >= ListBox1->ListCount();
+    SelectAllButton->setCaption(text(all ? strings::kDeselectAll : strings::kSelectAll));
+    SelectAllButton->setValue(all);
+}
+
+bool MainWindow::_EditSelectAll_Action() {
+    selectAllRows();
+    return true;
+}
+
+void MainWindow::BevelDelBelow_Action() { hideBelow(); }
+
+void MainWindow::hideBelow() {
+    const int row = ListBox1->ListIndex();
+    if (ListBox1->SelCount() != 1 || row >= ListBox1->ListCount() - 1) return;
+    totalRows = runtime::intVal(ListBox1->Cell(row, engine::kNumber));
+    CulcButton->Push();
+    ListBox1->setListIndex(row);
+}
+
+void MainWindow::BevelDispAll_Action() {
+    const int row = ListBox1->ListIndex();
+    prepareShowAll();
+    CulcButton->Push();
+    ListBox1->setListIndex(row);
+}
+
+void MainWindow::prepareShowAll() {
+    totalRows = -1;
+    BevelDispAll->setEnabled(false);
+}
+
+void MainWindow::BevelNewNext_Action() {
+    if (ListBox1->ListIndex() < 0) return;
+    const int kind = KindPopup->ListIndex();
+    // After the cut the selected payment is the table's last row, its balance the new principal.
+    hideBelow();
+    const int n = ListBox1->ListCount();
+    const table::OldLoan old{RekiKind->MenuValue(), StartY->Text(), Kaisu->Text(), Shokai->Text(),
+                             record.dates.start, runtime::intVal(StartDX->Text())};
+    const table::NewLoan loan = table::recombination(old, ListBox1->RowCells(n - 1), n);
+
+    auto* window = new MainWindow;
+    window->GankinField->setText(loan.principal);
+    window->Nenriritsu->setText(Nenriritsu->Text());
+    window->Kaisu->setText(loan.times);
+    window->Shokai->setText("1");
+    window->showEra(loan.era);
+    window->KindPopup->setListIndex(kind);
+    window->StartY->setText(loan.year);
+    window->StartM->setText(loan.month);
+    window->StartD->setText(loan.day);
+    window->StartDX->setText(StartDX->Text());
+    window->CulcButton->Push();
+    window->resize(size());
+    window->show();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Help and about
+
+void MainWindow::HelpBtn_Action() {
+    App* app = App::instance();
+    HelpWindow* help = app->helpWindow();
+    if (!HelpBtn->Value()) {
+        app->isExistHelp = false;
+        help->hide();
+        return;
+    }
+    help->parentWin = this;
+    const QRect main = geometry();
+    const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
+    const int left = helpWindowLeft(main.left(), main.width(), help->width(), screenWidth);
+    help->move(left, main.top());
+    app->isExistHelp = true;
+    help->show();
+}
+
+bool MainWindow::_AppleAbout_Action() {
+    App::instance()->aboutWindow()->ShowModal();
+    return false;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Edit menu
+
+std::optional<MainWindow::EditCommand> MainWindow::editCommandNamed(const QString& itemName) {
+    static const std::map<QString, EditCommand> kByName{
+        {"EditUndo", EditCommand::Undo},   {"EditRedo", EditCommand::Redo},   {"EditCut", EditCommand::Cut},
+        {"EditCopy", EditCommand::Copy},   {"EditPaste", EditCommand::Paste}, {"EditClear", EditCommand::Clear},
+        {"EditSelectAll", EditCommand::SelectAll}};
+    const auto it = kByName.find(itemName);
+    if (it == kByName.end()) return std::nullopt;
+    return it->second;
+}
+
+bool MainWindow::canDo(EditCommand command) const {
+    auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (!field) {
+        if (command == EditCommand::SelectAll) return true;
+        return command == EditCommand::Copy && focusWidget() == ListBox1 && ListBox1->SelCount() > 0;
+    }
+    const bool editable = !field->isReadOnly();
+    switch (command) {
+    case EditCommand::Undo: return editable && field->isUndoAvailable();
+    case EditCommand::Redo: return editable && field->isRedoAvailable();
+    case EditCommand::Cut:
+    case EditCommand::Clear: return editable && field->hasSelectedText();
+    case EditCommand::Copy: return field->hasSelectedText();
+    case EditCommand::Paste: return editable;
+    case EditCommand::SelectAll: return true;
+    }
+    return false;
+}
+
+void MainWindow::editCommand(EditCommand command) {
+    auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (!field) {
+        if (command == EditCommand::SelectAll) _EditSelectAll_Action();
+        if (command == EditCommand::Copy && focusWidget() == ListBox1) ListBox1->copySelection();
+        return;
+    }
+    switch (command) {
+    case EditCommand::Undo: field->undo(); break;
+    case EditCommand::Redo: field->redo(); break;
+    case EditCommand::Cut: field->cut(); break;
+    case EditCommand::Copy: field->copy(); break;
+    case EditCommand::Paste: field->paste(); break;
+    case EditCommand::Clear: field->del(); break;
+    case EditCommand::SelectAll: field->selectAll(); break;
+    }
+}
+
+} // namespace shell

@@ -1,0 +1,148 @@
+#pragma once
+// The working window: a form above a repayment table, one loan a window. Its handlers carry
+// the names of the controls and events they answer; each reads the controls, calls the rule,
+// writes the texts and, where an input changed, pushes CulcButton, the one road to a new table.
+
+#include "engine/calculation.h"
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+
+class QFrame;
+class QLineEdit;
+
+namespace controls {
+class BevelButton;
+class ListBox;
+class LockedLayoutWidget;
+class PopupMenu;
+class PushButton;
+class TextField;
+} // namespace controls
+
+namespace shell {
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+
+    // The form of another window, copied as a new table copies the front window's.
+    void copyFormFrom(const MainWindow& source);
+
+    enum class EditCommand { Undo, Redo, Cut, Copy, Paste, Clear, SelectAll };
+    static std::optional<EditCommand> editCommandNamed(const QString& itemName);
+    bool canDo(EditCommand command) const;
+    void editCommand(EditCommand command);
+
+    // The controls, by the names the handlers use.
+    controls::TextField* GankinField;
+    controls::TextField* Nenriritsu;
+    controls::TextField* Kaisu;
+    controls::TextField* Shokai;
+    controls::TextField* StartY;
+    controls::TextField* StartM;
+    controls::TextField* StartD;
+    controls::TextField* StartDX;
+    controls::BevelButton* RekiKind;
+    controls::BevelButton* DelayPop;
+    controls::PopupMenu* KindPopup;
+    controls::PushButton* CulcButton;
+    controls::ListBox* ListBox1;
+    QLineEdit* RisokuTotal;
+    QFrame* Rectangle1;
+    QLabel* SelNum;
+    QLabel* Kansai;
+    controls::BevelButton* SelectAllButton;
+    controls::BevelButton* BevelNewNext;
+    controls::BevelButton* BevelDispAll;
+    controls::BevelButton* BevelDelBelow;
+    controls::BevelButton* HelpBtn;
+    std::map<int, QLabel*> LabelText;
+
+    // The loan record and the display range.
+    bool isGanri = false;
+    std::int64_t numTop = 1;
+    std::int64_t totalRows = -1;
+    std::string curText;
+    engine::LoanRecord record;
+
+    // Calculation.
+    void CulcButton_Action();
+    std::optional<engine::Calculation> culcFixedAmount();
+    void setKansaiText(const engine::Calculation& calc);
+    void setList(std::vector<engine::Row> rows);
+
+    // Method popup.
+    void KindPopup_Open();
+    void KindPopup_Change();
+
+    // Era and date line.
+    void RekiKind_Open();
+    void RekiKind_Action();
+    void optSeireki();
+    void optStartY();
+    void StartY_LostFocus();
+    void StartM_LostFocus();
+    void StartD_LostFocus();
+    void StartDX_LostFocus();
+    void DelayPop_Open();
+    void DelayPop_Action();
+
+    // Amount fields.
+    void GankinField_Open();
+    void GankinField_GotFocus();
+    void GankinField_LostFocus();
+    void Nenriritsu_LostFocus();
+    void Kaisu_LostFocus();
+    void Shokai_Open();
+    void Shokai_LostFocus();
+
+    // Table.
+    void ListBox1_Open();
+    bool ListBox1_MouseDown(int x, int y);
+    bool ListBox1_HeaderPressed(int column);
+    void ListBox1_Change();
+    void SelectAllButton_Action();
+    void selectAllRows();
+    void optSelectBtnState();
+    bool _EditSelectAll_Action();
+    void BevelDelBelow_Action();
+    void hideBelow();
+    void BevelDispAll_Action();
+    void prepareShowAll();
+    void BevelNewNext_Action();
+
+    // Help and about.
+    void HelpBtn_Action();
+    bool _AppleAbout_Action();
+
+    // The window.
+    void Event_Open();
+    void Event_Resized();
+    void Event_Close();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void createControls(controls::LockedLayoutWidget* form);
+    void bindHandlers();
+    void setTabOrder();
+    engine::LoanForm loanForm() const;
+    // The era shown by RekiKind, caption and menu value together.
+    void showEra(int era);
+    // Every field whose focus handlers only remember the text it had.
+    void rememberTextOnFocus(controls::TextField* field);
+
+    int m_actionRuns = 0;
+};
+
+} // namespace shell

@@ -1,0 +1,69 @@
+#include "shell/menubar.h"
+
+#include "shell/app.h"
+#include "shell/mainwindow.h"
+#include "strings/lookup.h"
+
+#include <QMenuBar>
+
+namespace shell {
+namespace {
+
+QAction* addItem(QMenu* menu, const char* name, const strings::Constant& caption, QKeySequence shortcut = {}) {
+    QAction* item = menu->addAction(strings::text(caption));
+    item->setObjectName(name);
+    item->setShortcut(shortcut);
+    return item;
+}
+
+} // namespace
+
+void buildMenuBar(QMenuBar* bar, MainWindow* window) {
+    QMenu* fileMenu = bar->addMenu(strings::text(strings::kFileMenu));
+    fileMenu->setObjectName("FileMenu");
+    QAction* fileNew = addItem(fileMenu, "FileNew", strings::kFileNew, QKeySequence::New);
+    QObject::connect(fileNew, &QAction::triggered, App::instance(), [] { App::instance()->_FileNew_Action(); });
+    QAction* fileQuit = addItem(fileMenu, "FileQuit", strings::kFileQuit, QKeySequence::Quit);
+    fileQuit->setMenuRole(QAction::QuitRole);
+    QObject::connect(fileQuit, &QAction::triggered, App::instance(), &QApplication::closeAllWindows);
+
+    QMenu* editMenu = bar->addMenu(strings::text(strings::kEditMenu));
+    editMenu->setObjectName("EditMenu");
+    const struct {
+        const char* name;
+        const strings::Constant& caption;
+        QKeySequence shortcut;
+        MainWindow::EditCommand command;
+    } editItems[] = {
+        {"EditUndo", strings::kEditUndo, QKeySequence::Undo, MainWindow::EditCommand::Undo},
+        {"EditRedo", strings::kEditRedo, QKeySequence::Redo, MainWindow::EditCommand::Redo},
+        {"EditCut", strings::kEditCut, QKeySequence::Cut, MainWindow::EditCommand::Cut},
+        {"EditCopy", strings::kEditCopy, QKeySequence::Copy, MainWindow::EditCommand::Copy},
+        {"EditPaste", strings::kEditPaste, QKeySequence::Paste, MainWindow::EditCommand::Paste},
+        {"EditClear", strings::kEditClear, {}, MainWindow::EditCommand::Clear},
+        {"EditSelectAll", strings::kEditSelectAll, QKeySequence::SelectAll, MainWindow::EditCommand::SelectAll},
+    };
+    for (const auto& item : editItems) {
+        if (item.command == MainWindow::EditCommand::Cut || item.command == MainWindow::EditCommand::SelectAll)
+            editMenu->addSeparator();
+        QAction* action = addItem(editMenu, item.name, item.caption, item.shortcut);
+        action->setEnabled(window != nullptr);
+        if (window)
+            QObject::connect(action, &QAction::triggered, window,
+                             [window, command = item.command] { window->editCommand(command); });
+    }
+    QAction* about = addItem(editMenu, "AppleAbout", strings::kAppleAbout);
+    about->setMenuRole(QAction::AboutRole);
+    about->setEnabled(window != nullptr);
+    if (window) QObject::connect(about, &QAction::triggered, window, &MainWindow::_AppleAbout_Action);
+
+    // The edit commands are offered where the focused control can carry them out.
+    if (window)
+        QObject::connect(editMenu, &QMenu::aboutToShow, window, [window, editMenu] {
+            for (QAction* action : editMenu->actions())
+                if (const auto command = MainWindow::editCommandNamed(action->objectName()))
+                    action->setEnabled(window->canDo(*command));
+        });
+}
+
+} // namespace shell

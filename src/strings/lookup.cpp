@@ -1,0 +1,18 @@
+#include "strings/lookup.h"
+
+#include <QCoreApplication>
+
+namespace strings {
+
+QString text(const Constant& constant) {
+    // The key is the context and the name; translations carry the name as their source text.
+    const std::string context(constant.context);
+    const std::string name(constant.name);
+    const QString translated = QCoreApplication::translate(context.c_str(), name.c_str());
+    if (translated != QLatin1String(name.c_str())) return translated;
+    return QString::fromUtf8(constant.defaultText.data(), static_cast<qsizetype>(constant.defaultText.size()));
+}
+
+QStringList fields(const Constant& constant, QChar separator) { return text(constant).split(separator); }
+
+} // namespace strings

@@ -1,0 +1,21 @@
+#include "table/selectionsum.h"
+
+#include "engine/schedule.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+namespace table {
+
+void SelectionSum::add(std::string_view interestCell) {
+    const double interest = runtime::Val(runtime::withoutCommas(interestCell));
+    m_total = runtime::toInt64(interest + static_cast<double>(m_total));
+    ++m_count;
+}
+
+std::string SelectionSum::totalText() const {
+    return runtime::Format(static_cast<double>(m_total), engine::kAmountMask);
+}
+
+std::string SelectionSum::countText() const { return runtime::Str(m_count); }
+
+} // namespace table
