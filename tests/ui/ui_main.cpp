@@ -1,0 +1,13 @@
+// The widget tests run offscreen unless told otherwise, in the default (English) texts.
+#include "shell/app.h"
+
+#include <QLocale>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    ::testing::InitGoogleTest(&argc, argv);
+    shell::App app(argc, argv);
+    return RUN_ALL_TESTS();
+}

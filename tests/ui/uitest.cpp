@@ -1,0 +1,48 @@
+#include "uitest.h"
+
+#include <QApplication>
+#include <QMenu>
+
+namespace uitest {
+
+void showActive(QWidget* window) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+}
+
+void closeAllWindows() {
+    // Main windows and the help window delete themselves on closing.
+    QApplication::closeAllWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void WindowTest::SetUp() {
+    w = new MainWindow;
+    showActive(w);
+    m_calculations = std::make_unique<QSignalSpy>(w->CulcButton, &controls::PushButton::Action);
+}
+
+void WindowTest::typeAndLeave(controls::TextField* field, const QString& text) {
+    QTest::mouseClick(field, Qt::LeftButton);
+    field->selectAll();
+    QTest::keyClicks(field, text);
+    QTest::keyClick(field, Qt::Key_Tab);
+}
+
+void WindowTest::visit(controls::TextField* field) {
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::keyClick(field, Qt::Key_Tab);
+}
+
+void WindowTest::chooseMenuItem(controls::BevelButton* button, int item) {
+    button->menu()->actions().at(item)->trigger();
+}
+
+std::vector<engine::Row> WindowTest::table() const {
+    std::vector<engine::Row> all;
+    for (int r = 0; r < rows(); ++r) all.push_back(w->ListBox1->RowCells(r));
+    return all;
+}
+
+} // namespace uitest

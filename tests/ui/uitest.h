@@ -1,0 +1,51 @@
+#pragma once
+// Driving the real windows offscreen: a window shown and active, fields typed into and left as
+// a user does, and what the user would see read back.
+
+#include "controls/bevelbutton.h"
+#include "controls/listbox.h"
+#include "controls/popupmenu.h"
+#include "controls/pushbutton.h"
+#include "controls/textfield.h"
+#include "shell/app.h"
+#include "shell/mainwindow.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace uitest {
+
+using shell::MainWindow;
+
+// Shows the window and waits until it is active, so that focus events flow.
+void showActive(QWidget* window);
+
+// Every top-level window closed and deleted.
+void closeAllWindows();
+
+class WindowTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override { closeAllWindows(); }
+
+    // Clicks into the field, replaces its text by typing, and leaves it with Tab.
+    void typeAndLeave(controls::TextField* field, const QString& text);
+    // Clicks into the field and leaves it with Tab, typing nothing.
+    void visit(controls::TextField* field);
+    void chooseMenuItem(controls::BevelButton* button, int item);
+
+    std::string cell(int row, int column) const { return w->ListBox1->Cell(row, column); }
+    int rows() const { return w->ListBox1->ListCount(); }
+    std::vector<engine::Row> table() const;
+    // How many times the calculate action ran since the spy was made.
+    int calculations() const { return static_cast<int>(m_calculations->count()); }
+    void resetCalculations() { m_calculations->clear(); }
+
+    MainWindow* w = nullptr;
+
+private:
+    std::unique_ptr<QSignalSpy> m_calculations;
+};
+
+} // namespace uitest
