@@ -29,7 +29,9 @@ void TextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (!m_hasFocus || isPassing(event->reason())) return;
     m_hasFocus = false;
+    ++s_fieldsBeingLeft;
     emit LostFocus();
+    --s_fieldsBeingLeft;
 }
 
 } // namespace controls

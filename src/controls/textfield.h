@@ -4,6 +4,7 @@
 // code raises neither; and switching to another window or opening a popup over the field is not
 // a loss of focus, so it raises nothing.
 
+
 #include <QLineEdit>
 
 #include <string>
@@ -19,6 +20,9 @@ public:
     std::string Text() const { return text().toStdString(); }
     void setText(std::string_view text);
 
+    // True while a field's LostFocus runs: the focus is already on its way to another control.
+    static bool isBeingLeft() { return s_fieldsBeingLeft > 0; }
+
 signals:
     void GotFocus();
     void LostFocus();
@@ -29,6 +33,7 @@ protected:
 
 private:
     bool m_hasFocus = false; // GotFocus raised and LostFocus not yet
+    static inline int s_fieldsBeingLeft = 0;
 };
 
 } // namespace controls

@@ -306,8 +306,9 @@ void MainWindow::CulcButton_Action() {
 std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
     // Moving the focus to the table ends an edit in progress: the field's LostFocus corrects
     // its text and, where it changed, runs a calculation of its own from the corrected form.
+    // Where a field is being left already, the focus stays on its way to where the user sent it.
     const int runsBefore = m_actionRuns;
-    ListBox1->setFocus(Qt::OtherFocusReason);
+    if (!controls::TextField::isBeingLeft()) ListBox1->setFocus(Qt::OtherFocusReason);
     if (m_actionRuns != runsBefore) return std::nullopt;
 
     calendar::PayoffWords words;

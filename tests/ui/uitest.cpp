@@ -26,6 +26,7 @@ void WindowTest::SetUp() {
 void WindowTest::typeAndLeave(controls::TextField* field, const QString& text) {
     QTest::mouseClick(field, Qt::LeftButton);
     field->selectAll();
+    QTest::keyClick(field, Qt::Key_Backspace);
     QTest::keyClicks(field, text);
     QTest::keyClick(field, Qt::Key_Tab);
 }
