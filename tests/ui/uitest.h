@@ -14,6 +14,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+// How gtest prints a QString when a case fails.
+inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
+
 namespace uitest {
 
 using shell::MainWindow;
