@@ -1,0 +1,57 @@
+#include "strings/lookup.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The Japanese translation, installed for the length of a test.
+class Japanese {
+public:
+    Japanese() {
+        m_loaded = m_translator.load(":/i18n/kestrune_ja.qm");
+        QCoreApplication::installTranslator(&m_translator);
+    }
+    ~Japanese() { QCoreApplication::removeTranslator(&m_translator); }
+    bool loaded() const { return m_loaded; }
+    QString raw(const strings::Constant& c) const {
+        return m_translator.translate(std::string(c.context).c_str(), std::string(c.name).c_str());
+    }
+
+private:
+    QTranslator m_translator;
+    bool m_loaded = false;
+};
+
+void expectStructure(const char* language) {
+    EXPECT_EQ(strings::fields(strings::kHeader, '\t').size(), 6) << language;
+    const QStringList eras = strings::fields(strings::kRekiCombination, ',');
+    ASSERT_EQ(eras.size(), 5) << language;
+    EXPECT_EQ(eras[0], strings::text(strings::kRekiXst)) << language;
+    EXPECT_EQ(eras[1], strings::text(strings::kRekiS)) << language;
+    EXPECT_EQ(eras[2], strings::text(strings::kRekiH)) << language;
+    EXPECT_EQ(eras[3], strings::text(strings::kRekiR)) << language;
+    EXPECT_TRUE(strings::text(strings::kGankin).endsWith(' ')) << language;
+    EXPECT_TRUE(strings::text(strings::kGanri).endsWith(' ')) << language;
+    EXPECT_EQ(strings::text(strings::kHelpText).count('\n'), 9) << language;
+}
+
+TEST(Strings, DefaultTextsWithoutATranslation) {
+    EXPECT_EQ(strings::text(strings::kHeader), "No.\tRepayment\tAmount\tPrincipal\tInterest\tBalance");
+    EXPECT_EQ(strings::text(strings::kDay), "");
+    EXPECT_EQ(strings::text(strings::kRekiCombination), "XstCal,Showa,Heisei,Reiwa,XC<->JC");
+    expectStructure("English");
+}
+
+TEST(Strings, EveryConstantHasAJapaneseText) {
+    Japanese japanese;
+    ASSERT_TRUE(japanese.loaded());
+    for (const auto& constant : strings::kAllConstants)
+        EXPECT_FALSE(japanese.raw(constant).isEmpty()) << constant.context << "." << constant.name;
+    EXPECT_EQ(strings::text(strings::kRekiR), QStringLiteral("令和"));
+    EXPECT_EQ(strings::text(strings::kYear), QStringLiteral("年"));
+    expectStructure("Japanese");
+}
+
+} // namespace
