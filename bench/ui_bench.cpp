@@ -1,0 +1,91 @@
+// The window: start-up to the first full table, recalculation to the repainted table, memory,
+// and selecting every row of a long table.
+#include "controls/bevelbutton.h"
+#include "controls/listbox.h"
+#include "controls/pushbutton.h"
+#include "controls/textfield.h"
+#include "shell/app.h"
+#include "shell/mainwindow.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QLocale>
+
+#include <chrono>
+#include <fstream>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace {
+
+std::string g_probe; // the start-up probe beside this benchmark
+
+double residentMegabytes() {
+    std::ifstream statm("/proc/self/statm");
+    long pages = 0, resident = 0;
+    statm >> pages >> resident;
+    return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+void StartupToFirstTable(benchmark::State& state) {
+    for (auto _ : state) {
+        pid_t pid = 0;
+        char* argv[] = {g_probe.data(), nullptr};
+        if (posix_spawn(&pid, g_probe.c_str(), nullptr, nullptr, argv, environ) != 0) {
+            state.SkipWithError("cannot start the probe");
+            return;
+        }
+        int status = 0;
+        waitpid(pid, &status, 0);
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) state.SkipWithError("the probe found no table");
+    }
+}
+BENCHMARK(StartupToFirstTable)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void RecalculateAndRepaint(benchmark::State& state) {
+    auto* window = new shell::MainWindow;
+    window->show();
+    window->Kaisu->setText(std::to_string(state.range(0)));
+    window->Nenriritsu->setText("0.5");
+    for (auto _ : state) {
+        window->CulcButton->Push();
+        window->ListBox1->viewport()->repaint();
+    }
+    if (window->ListBox1->ListCount() != state.range(0)) state.SkipWithError("unexpected row count");
+    state.counters["resident_MB"] = residentMegabytes();
+    delete window;
+}
+BENCHMARK(RecalculateAndRepaint)->Arg(144)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+void SelectAllRows(benchmark::State& state) {
+    auto* window = new shell::MainWindow;
+    window->show();
+    window->Kaisu->setText(std::to_string(state.range(0)));
+    window->Nenriritsu->setText("0.5");
+    window->CulcButton->Push();
+    for (auto _ : state) {
+        window->SelectAllButton->click(); // all rows, with the interest total
+        state.PauseTiming();
+        window->SelectAllButton->click(); // and none again
+        state.ResumeTiming();
+    }
+    delete window;
+}
+BENCHMARK(SelectAllRows)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::string self = argv[0];
+    g_probe = self.substr(0, self.find_last_of('/') + 1) + "startup_probe";
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    shell::App app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
