@@ -290,11 +290,11 @@ void MainWindow::CulcButton_Action() {
     ++m_actionRuns;
     if (!engine::passesZeroTest(loanForm())) return QApplication::beep();
     const bool allSelected = SelectAllButton->Value();
-    const auto calc = culcFixedAmount();
+    auto calc = culcFixedAmount();
     if (!calc) return;
     setKansaiText(*calc);
     record = calc->record;
-    setList(calc->rows);
+    setList(std::move(calc->rows));
     if (allSelected) {
         SelectAllButton->setValue(true);
         selectAllRows();
