@@ -25,7 +25,12 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     QObject::connect(fileNew, &QAction::triggered, App::instance(), [] { App::instance()->_FileNew_Action(); });
     QAction* fileQuit = addItem(fileMenu, "FileQuit", strings::kFileQuit, QKeySequence::Quit);
     fileQuit->setMenuRole(QAction::QuitRole);
-    QObject::connect(fileQuit, &QAction::triggered, App::instance(), &QApplication::closeAllWindows);
+    // Every window closes (each hides the help window as it goes), then the application ends,
+    // also where no window was open.
+    QObject::connect(fileQuit, &QAction::triggered, App::instance(), [] {
+        QApplication::closeAllWindows();
+        QApplication::quit();
+    });
 
     QMenu* editMenu = bar->addMenu(strings::text(strings::kEditMenu));
     editMenu->setObjectName("EditMenu");
