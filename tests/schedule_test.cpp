@@ -75,11 +75,6 @@ TEST(Schedule, DateColumnShowsTheEraYear) {
     EXPECT_EQ(calculate(showa).rows[0][kDate], "01.01.08");
 }
 
-TEST(Schedule, EqualPrincipalColumnFormsTheLevelPrincipal) {
-    const Calculation calc = calculate(defaultLoan(false));
-    for (std::size_t i = 0; i + 1 < calc.rows.size(); ++i) EXPECT_EQ(calc.rows[i][kPrincipal], "694,444");
-}
-
 TEST(Schedule, PayDay31FollowsTheEndOfEachMonth) {
     LoanForm form = defaultLoan(false);
     form.date = {"2023", "12", "31", "31"};
