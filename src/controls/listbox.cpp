@@ -83,8 +83,6 @@ void ListBox::setListIndex(int row) {
 
 int ListBox::SelCount() const { return static_cast<int>(SelectedRows().size()); }
 
-bool ListBox::Selected(int row) const { return selectionModel()->isRowSelected(row, {}); }
-
 const std::vector<int>& ListBox::SelectedRows() const {
     if (!m_selectedRows) {
         // Ranges of a selection may overlap: mark each row once, then list them in order.

@@ -36,7 +36,6 @@ public:
     int ListIndex() const;
     void setListIndex(int row);
     int SelCount() const;
-    bool Selected(int row) const;
     const std::vector<int>& SelectedRows() const;
     // Every row selected in one operation: one Change.
     void selectAllRows();
