@@ -272,13 +272,27 @@ void MainWindow::changeEvent(QEvent* event) {
 // ---------------------------------------------------------------------------------------------
 // Calculation
 
+calendar::DateFieldTexts MainWindow::dateFieldTexts() const {
+    return {StartY->Text(), StartM->Text(), StartD->Text()};
+}
+
+calendar::PayoffWords MainWindow::payoffWords() {
+    calendar::PayoffWords words;
+    words.eraNames = {"", str(text(strings::kRekiS)), str(text(strings::kRekiH)), str(text(strings::kRekiR))};
+    words.year = str(text(strings::kYear));
+    words.month = str(text(strings::kMonth));
+    words.day = str(text(strings::kDay));
+    return words;
+}
+
 engine::LoanForm MainWindow::loanForm() const {
     engine::LoanForm form;
     form.principal = GankinField->Text();
     form.rate = Nenriritsu->Text();
     form.times = Kaisu->Text();
     form.era = RekiKind->MenuValue();
-    form.date = {StartY->Text(), StartM->Text(), StartD->Text(), StartDX->Text()};
+    const calendar::DateFieldTexts date = dateFieldTexts();
+    form.date = {date.year, date.month, date.day, StartDX->Text()};
     form.delay = DelayPop->MenuValue();
     form.isGanri = isGanri;
     form.numTop = numTop;
@@ -311,12 +325,7 @@ std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
     if (!controls::TextField::isBeingLeft()) ListBox1->setFocus(Qt::OtherFocusReason);
     if (m_actionRuns != runsBefore) return std::nullopt;
 
-    calendar::PayoffWords words;
-    words.eraNames = {"", str(text(strings::kRekiS)), str(text(strings::kRekiH)), str(text(strings::kRekiR))};
-    words.year = str(text(strings::kYear));
-    words.month = str(text(strings::kMonth));
-    words.day = str(text(strings::kDay));
-    engine::Calculation calc = engine::calculate(loanForm(), words);
+    engine::Calculation calc = engine::calculate(loanForm(), payoffWords());
     if (calc.refusal != engine::Refusal::None) {
         QApplication::beep();
         return std::nullopt;
@@ -346,16 +355,14 @@ void MainWindow::KindPopup_Change() {
 // Era and date line
 
 void MainWindow::showEra(int era) {
-    static constexpr const strings::Constant* kEraNames[] = {&strings::kRekiXst, &strings::kRekiS,
-                                                             &strings::kRekiH, &strings::kRekiR};
+    // The first four menu items are the era names, the texts the caption is compared with.
     RekiKind->setMenuValue(era);
-    RekiKind->setCaption(text(*kEraNames[era]));
+    RekiKind->setCaption(RekiKind->List(era));
 }
 
 void MainWindow::RekiKind_Open() {
     for (const QString& item : strings::fields(strings::kRekiCombination, ',')) RekiKind->AddRow(item);
-    RekiKind->setMenuValue(calendar::kReiwa);
-    RekiKind->setCaption(RekiKind->List(calendar::kReiwa));
+    showEra(calendar::kReiwa);
 }
 
 void MainWindow::RekiKind_Action() {
@@ -373,22 +380,21 @@ void MainWindow::RekiKind_Action() {
         if (oldCaption == RekiKind->List(era)) oldEra = era;
     const auto converted = calendar::convertCalendar(oldEra, calendar::readYear(StartY->Text()),
                                                      runtime::intVal(StartM->Text()), runtime::intVal(StartD->Text()));
-    RekiKind->setMenuValue(converted.era);
-    RekiKind->setCaption(RekiKind->List(converted.era));
+    showEra(converted.era);
     StartY->setText(runtime::Str(converted.year));
     CulcButton->Push();
 }
 
 void MainWindow::optSeireki() {
     if (RekiKind->MenuValue() == calendar::kWestern) return;
-    const auto field = calendar::correctYearField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    const auto field = calendar::correctYearField(RekiKind->MenuValue(), dateFieldTexts());
     if (!field.era) return;
     showEra(*field.era);
     StartY->setText(field.year);
 }
 
 void MainWindow::optStartY() {
-    const auto field = calendar::correctYearField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    const auto field = calendar::correctYearField(RekiKind->MenuValue(), dateFieldTexts());
     if (field.era) showEra(*field.era);
     StartY->setText(field.year);
 }
@@ -399,7 +405,7 @@ void MainWindow::StartY_LostFocus() {
 }
 
 void MainWindow::StartM_LostFocus() {
-    const auto field = calendar::correctMonthField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()});
+    const auto field = calendar::correctMonthField(RekiKind->MenuValue(), dateFieldTexts());
     if (field.day) StartD->setText(*field.day);
     if (field.month) StartM->setText(*field.month);
     optStartY();
@@ -407,7 +413,7 @@ void MainWindow::StartM_LostFocus() {
 }
 
 void MainWindow::StartD_LostFocus() {
-    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), {StartY->Text(), StartM->Text(), StartD->Text()}))
+    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), dateFieldTexts()))
         StartD->setText(*day);
     optStartY();
     if (curText != StartD->Text()) CulcButton->Push();
@@ -591,16 +597,6 @@ bool MainWindow::_AppleAbout_Action() {
 
 // ---------------------------------------------------------------------------------------------
 // Edit menu
-
-std::optional<MainWindow::EditCommand> MainWindow::editCommandNamed(const QString& itemName) {
-    static const std::map<QString, EditCommand> kByName{
-        {"EditUndo", EditCommand::Undo},   {"EditRedo", EditCommand::Redo},   {"EditCut", EditCommand::Cut},
-        {"EditCopy", EditCommand::Copy},   {"EditPaste", EditCommand::Paste}, {"EditClear", EditCommand::Clear},
-        {"EditSelectAll", EditCommand::SelectAll}};
-    const auto it = kByName.find(itemName);
-    if (it == kByName.end()) return std::nullopt;
-    return it->second;
-}
 
 bool MainWindow::canDo(EditCommand command) const {
     auto* field = qobject_cast<QLineEdit*>(focusWidget());

@@ -3,6 +3,7 @@
 // the names of the controls and events they answer; each reads the controls, calls the rule,
 // writes the texts and, where an input changed, pushes CulcButton, the one road to a new table.
 
+#include "calendar/datefields.h"
 #include "engine/calculation.h"
 
 #include <QLabel>
@@ -36,7 +37,7 @@ public:
     void copyFormFrom(const MainWindow& source);
 
     enum class EditCommand { Undo, Redo, Cut, Copy, Paste, Clear, SelectAll };
-    static std::optional<EditCommand> editCommandNamed(const QString& itemName);
+    Q_ENUM(EditCommand)
     bool canDo(EditCommand command) const;
     void editCommand(EditCommand command);
 
@@ -137,6 +138,9 @@ private:
     void bindHandlers();
     void setTabOrder();
     engine::LoanForm loanForm() const;
+    calendar::DateFieldTexts dateFieldTexts() const;
+    // The words of the pay-off statement in the user's language.
+    static calendar::PayoffWords payoffWords();
     // The era shown by RekiKind, caption and menu value together.
     void showEra(int era);
     // Every field whose focus handlers only remember the text it had.

@@ -52,6 +52,7 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
         if (item.command == MainWindow::EditCommand::Cut || item.command == MainWindow::EditCommand::SelectAll)
             editMenu->addSeparator();
         QAction* action = addItem(editMenu, item.name, item.caption, item.shortcut);
+        action->setData(QVariant::fromValue(item.command));
         action->setEnabled(window != nullptr);
         if (window)
             QObject::connect(action, &QAction::triggered, window,
@@ -66,8 +67,8 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     if (window)
         QObject::connect(editMenu, &QMenu::aboutToShow, window, [window, editMenu] {
             for (QAction* action : editMenu->actions())
-                if (const auto command = MainWindow::editCommandNamed(action->objectName()))
-                    action->setEnabled(window->canDo(*command));
+                if (action->data().canConvert<MainWindow::EditCommand>())
+                    action->setEnabled(window->canDo(action->data().value<MainWindow::EditCommand>()));
         });
 }
 

@@ -4,19 +4,7 @@ namespace {
 
 using namespace uitest;
 
-class FormTest : public WindowTest {
-protected:
-    // A form in the given era and date, calculated, and the count of calculations reset.
-    void setDate(int era, const char* year, const char* month, const char* day) {
-        w->RekiKind->setMenuValue(era);
-        w->RekiKind->setCaption(w->RekiKind->List(era));
-        w->StartY->setText(year);
-        w->StartM->setText(month);
-        w->StartD->setText(day);
-        w->CulcButton->Push();
-        resetCalculations();
-    }
-};
+using FormTest = WindowTest;
 
 // --- Amount fields ------------------------------------------------------------------------------
 

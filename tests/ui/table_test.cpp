@@ -13,13 +13,7 @@ class TableTest : public WindowTest {
 protected:
     void SetUp() override {
         WindowTest::SetUp();
-        // The default loan borrowed on 2020-03-15, as a Western date.
-        w->RekiKind->setMenuValue(calendar::kWestern);
-        w->RekiKind->setCaption("XstCal");
-        w->StartY->setText("2020");
-        w->StartM->setText("3");
-        w->StartD->setText("15");
-        w->CulcButton->Push();
+        setDate(calendar::kWestern, "2020", "3", "15"); // the default loan borrowed on 2020-03-15
     }
 
     QPoint cellCentre(int row, int column) const {
@@ -205,10 +199,7 @@ TEST_F(TableTest, HideCountsPaymentNumbersNotRows) {
 
 TEST_F(TableTest, RecombinationMovesTheRowsBelowToANewLoan) {
     w->KindPopup->setListIndex(0);
-    w->RekiKind->setMenuValue(calendar::kReiwa);
-    w->RekiKind->setCaption("Reiwa");
-    w->StartY->setText("2");
-    w->CulcButton->Push();
+    setDate(calendar::kReiwa, "2", "3", "15");
     clickRow(11);
     const engine::Row selected = w->ListBox1->RowCells(11);
     w->BevelNewNext->click();
@@ -262,10 +253,7 @@ TEST_F(TableTest, RecombinationWidensAWesternYear) {
 }
 
 TEST_F(TableTest, RecombinationAcrossAnEraNamesTheLaterEra) {
-    w->RekiKind->setMenuValue(calendar::kHeisei);
-    w->RekiKind->setCaption("Heisei");
-    w->StartY->setText("30");
-    w->CulcButton->Push();
+    setDate(calendar::kHeisei, "30", "3", "15");
     clickRow(19); // 2019-11-08, shown under Reiwa
     ASSERT_EQ(cell(19, engine::kDate), "01.11.08");
     w->BevelNewNext->click();

@@ -40,6 +40,16 @@ void WindowTest::chooseMenuItem(controls::BevelButton* button, int item) {
     button->menu()->actions().at(item)->trigger();
 }
 
+void WindowTest::setDate(int era, const char* year, const char* month, const char* day) {
+    w->RekiKind->setMenuValue(era);
+    w->RekiKind->setCaption(w->RekiKind->List(era));
+    w->StartY->setText(year);
+    w->StartM->setText(month);
+    w->StartD->setText(day);
+    w->CulcButton->Push();
+    resetCalculations();
+}
+
 std::vector<engine::Row> WindowTest::table() const {
     std::vector<engine::Row> all;
     for (int r = 0; r < rows(); ++r) all.push_back(w->ListBox1->RowCells(r));

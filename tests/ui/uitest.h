@@ -37,6 +37,8 @@ protected:
     // Clicks into the field and leaves it with Tab, typing nothing.
     void visit(controls::TextField* field);
     void chooseMenuItem(controls::BevelButton* button, int item);
+    // The borrowing date in the given era, calculated, and the count of calculations reset.
+    void setDate(int era, const char* year, const char* month, const char* day);
 
     std::string cell(int row, int column) const { return w->ListBox1->Cell(row, column); }
     int rows() const { return w->ListBox1->ListCount(); }

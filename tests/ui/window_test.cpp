@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMenuBar>
 
 namespace {
@@ -163,6 +164,19 @@ TEST_F(WindowTest, MenusCarryTheirItemsAndStandardShortcuts) {
         EXPECT_EQ(action->text(), item.text);
         EXPECT_EQ(action->shortcut(), item.shortcut) << item.name;
     }
+    // Opening the Edit menu offers what the focused control can do.
+    auto* editMenu = w->menuBar()->findChild<QMenu*>("EditMenu");
+    const auto offered = [&](const char* name) {
+        emit editMenu->aboutToShow();
+        return w->menuBar()->findChild<QAction*>(name)->isEnabled();
+    };
+    w->ListBox1->setFocus();
+    EXPECT_FALSE(offered("EditCopy")) << "no row selected";
+    w->ListBox1->setListIndex(0);
+    EXPECT_TRUE(offered("EditCopy"));
+    EXPECT_FALSE(offered("EditPaste"));
+    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
+    EXPECT_TRUE(offered("EditPaste"));
     EXPECT_EQ(w->menuBar()->findChild<QAction*>("FileQuit")->menuRole(), QAction::QuitRole);
     EXPECT_EQ(w->menuBar()->findChild<QAction*>("AppleAbout")->menuRole(), QAction::AboutRole);
 }
