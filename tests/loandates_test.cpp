@@ -24,20 +24,20 @@ struct FirstPaymentCase {
 
 TEST(LoanDates, FirstPaymentFollowsPayDayAndDelay) {
     const FirstPaymentCase cases[] = {
-        {western(2023, 1, 15, 20, kNext), "2023-01-20"},      {western(2023, 1, 15, 15, kNext), "2023-02-15"},
-        {western(2023, 1, 15, 10, kNext), "2023-02-10"},      {western(2023, 1, 15, 20, kTwoAfter), "2023-02-20"},
-        {western(2023, 1, 15, 10, kTwoAfter), "2023-03-10"},  {western(2023, 1, 15, 20, kThreeAfter), "2023-03-20"},
+        {western(2023, 1, 15, 20, kNext), "2023-01-20"},       {western(2023, 1, 15, 15, kNext), "2023-02-15"},
+        {western(2023, 1, 15, 10, kNext), "2023-02-10"},       {western(2023, 1, 15, 20, kTwoAfter), "2023-02-20"},
+        {western(2023, 1, 15, 10, kTwoAfter), "2023-03-10"},   {western(2023, 1, 15, 20, kThreeAfter), "2023-03-20"},
         {western(2023, 1, 15, 10, kThreeAfter), "2023-04-10"}, {western(2023, 1, 31, 31, kNext), "2023-02-28"},
-        {western(2023, 2, 28, 31, kNext), "2023-03-31"},      {western(2023, 1, 30, 31, kTwoAfter), "2023-03-31"},
-        {western(2024, 1, 29, 30, kNext), "2024-01-30"},      {western(2024, 1, 30, 30, kNext), "2024-02-29"},
-        {western(2023, 12, 31, 31, kNext), "2024-01-31"},     {western(2023, 12, 20, 8, kNext), "2024-01-08"},
-        {western(2023, 12, 20, 8, kTwoAfter), "2024-02-08"},  {western(2023, 12, 20, 8, kThreeAfter), "2024-03-08"},
+        {western(2023, 2, 28, 31, kNext), "2023-03-31"},       {western(2023, 1, 30, 31, kTwoAfter), "2023-03-31"},
+        {western(2024, 1, 29, 30, kNext), "2024-01-30"},       {western(2024, 1, 30, 30, kNext), "2024-02-29"},
+        {western(2023, 12, 31, 31, kNext), "2024-01-31"},      {western(2023, 12, 20, 8, kNext), "2024-01-08"},
+        {western(2023, 12, 20, 8, kTwoAfter), "2024-02-08"},   {western(2023, 12, 20, 8, kThreeAfter), "2024-03-08"},
         {western(2023, 11, 20, 8, kThreeAfter), "2024-02-08"}, {western(2023, 12, 30, 31, kThreeAfter), "2024-02-29"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(iso(loanDates(c.line, 12).start), c.first)
-            << "borrowed " << c.line.year << "-" << c.line.month << "-" << c.line.day << " pay day "
-            << c.line.payDay << " delay " << c.line.delay;
+            << "borrowed " << c.line.year << "-" << c.line.month << "-" << c.line.day << " pay day " << c.line.payDay
+            << " delay " << c.line.delay;
 }
 
 struct PayoffCase {

@@ -33,11 +33,11 @@ TEST(Schedule, FlatPaymentOfTheDefaultLoan) {
     EXPECT_EQ(calc.record.hPart, 781684.0);
     ASSERT_EQ(calc.rows.size(), 144u);
     expectRows(calc.rows, {
-        {0, {"001", "20.04.08", "781,684", "650,264", "131,420", "99,349,736"}},
-        {1, {"002", "20.05.08", "781,684", "618,478", "163,206", "98,731,258"}},
-        {142, {"143", "32.02.08", "781,684", "779,112", "2,572", "735,990"}},
-        {143, {"144", "32.03.08", "737,159", "735,990", "1,169", "0"}},
-    });
+                              {0, {"001", "20.04.08", "781,684", "650,264", "131,420", "99,349,736"}},
+                              {1, {"002", "20.05.08", "781,684", "618,478", "163,206", "98,731,258"}},
+                              {142, {"143", "32.02.08", "781,684", "779,112", "2,572", "735,990"}},
+                              {143, {"144", "32.03.08", "737,159", "735,990", "1,169", "0"}},
+                          });
     EXPECT_EQ(calc.payoffText, "2032 / 3 / 8 ");
 }
 
@@ -47,8 +47,8 @@ TEST(Schedule, EqualPrincipalOfTheDefaultLoan) {
     EXPECT_EQ(calc.record.gPart, 694444.0);
     ASSERT_EQ(calc.rows.size(), 144u);
     expectRows(calc.rows, {
-        {0, {"001", "20.04.08", "825,864", "694,444", "131,420", "99,305,556"}},
-    });
+                              {0, {"001", "20.04.08", "825,864", "694,444", "131,420", "99,305,556"}},
+                          });
     EXPECT_EQ(calc.rows[142][kPrincipal], "694,444");
     EXPECT_EQ(calc.rows[142][kBalance], "694,508");
     EXPECT_EQ(calc.rows[143][kPrincipal], "694,508");
@@ -106,10 +106,10 @@ struct RangeCase {
 
 TEST(Schedule, ListsPaymentsFromNumTopToTotalRows) {
     const RangeCase cases[] = {
-        {1, 1, "144", 1, "001", "001"},    {10, 20, "144", 11, "010", "020"},
-        {5, 12, "144", 8, "005", "012"},   {144, -1, "144", 1, "144", "144"},
-        {150, -1, "144", 0, "", ""},       {1, 200, "144", 144, "001", "144"},
-        {1, -1, "-12", 0, "", ""},         {1, -1, "1e9", 100000, "001", "100000"},
+        {1, 1, "144", 1, "001", "001"},  {10, 20, "144", 11, "010", "020"},
+        {5, 12, "144", 8, "005", "012"}, {144, -1, "144", 1, "144", "144"},
+        {150, -1, "144", 0, "", ""},     {1, 200, "144", 144, "001", "144"},
+        {1, -1, "-12", 0, "", ""},       {1, -1, "1e9", 100000, "001", "100000"},
     };
     for (const auto& c : cases) {
         LoanForm form = defaultLoan(false);
@@ -138,11 +138,16 @@ struct RefusalCase {
 
 TEST(Calculate, RefusesZeroAndNonFiniteAmounts) {
     const RefusalCase cases[] = {
-        {"", "2.0", "144", Refusal::ZeroInput},       {"100", "0", "144", Refusal::ZeroInput},
-        {"100", "2", "0", Refusal::ZeroInput},        {"abc", "2", "144", Refusal::ZeroInput},
-        {",5", "2", "144", Refusal::ZeroInput},       {"1,000,000", "2", "144", Refusal::None},
-        {"-100", "2", "12", Refusal::None},           {"100", "1e-20", "144", Refusal::OutOfRange},
-        {"100", "2", "0.5", Refusal::OutOfRange},     {"1e308", "1e308", "144", Refusal::OutOfRange},
+        {"", "2.0", "144", Refusal::ZeroInput},
+        {"100", "0", "144", Refusal::ZeroInput},
+        {"100", "2", "0", Refusal::ZeroInput},
+        {"abc", "2", "144", Refusal::ZeroInput},
+        {",5", "2", "144", Refusal::ZeroInput},
+        {"1,000,000", "2", "144", Refusal::None},
+        {"-100", "2", "12", Refusal::None},
+        {"100", "1e-20", "144", Refusal::OutOfRange},
+        {"100", "2", "0.5", Refusal::OutOfRange},
+        {"1e308", "1e308", "144", Refusal::OutOfRange},
         {"100", "1e5", "100000", Refusal::OutOfRange},
     };
     for (const auto& c : cases) {

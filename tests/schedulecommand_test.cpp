@@ -38,7 +38,8 @@ TEST(ScheduleCommand, TablePrintsThePayoffLineAndAlignedRows) {
     ASSERT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out.substr(0, r.out.find('\n')), "Pay off: 2032 / 3 / 8 ");
     EXPECT_NE(r.out.find("No.  Repayment   Amount  Principal  Interest     Balance\n"
-                         "001  20.04.08   781,684    650,264   131,420  99,349,736\n"), std::string::npos)
+                         "001  20.04.08   781,684    650,264   131,420  99,349,736\n"),
+              std::string::npos)
         << r.out.substr(0, 400);
 }
 
@@ -79,8 +80,8 @@ TEST(ScheduleCommand, RefusalsAndBadOptions) {
 TEST(ScheduleCommand, HelpExplainsEveryOption) {
     const Result r = run({"--help"});
     EXPECT_EQ(r.status, 0);
-    for (const char* option : {"--principal", "--rate", "--times", "--first", "--last", "--era", "--year",
-                               "--month", "--day", "--pay-day", "--delay", "--method", "--format"})
+    for (const char* option : {"--principal", "--rate", "--times", "--first", "--last", "--era", "--year", "--month",
+                               "--day", "--pay-day", "--delay", "--method", "--format"})
         EXPECT_NE(r.out.find(option), std::string::npos) << option;
 }
 

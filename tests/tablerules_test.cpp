@@ -24,8 +24,8 @@ struct PlacementCase {
 };
 
 TEST(HelpPlacement, FlushRightWhereThereIsRoomElseFlushLeft) {
-    const PlacementCase cases[] = {{100, 485, 1440, 585}, {555, 485, 1440, 155}, {200, 485, 800, -200},
-                                   {554, 485, 1440, 1039}};
+    const PlacementCase cases[] = {
+        {100, 485, 1440, 585}, {555, 485, 1440, 155}, {200, 485, 800, -200}, {554, 485, 1440, 1039}};
     for (const auto& c : cases)
         EXPECT_EQ(shell::helpWindowLeft(c.left, c.width, 400, c.screen), c.expected) << c.left << " on " << c.screen;
 }

@@ -17,9 +17,7 @@ bool isLastMonthsOfHeisei(std::int64_t year, std::int64_t month) { return year =
 
 } // namespace
 
-std::int64_t readYear(std::string_view text) {
-    return std::clamp(runtime::intVal(text), -kYearLimit, kYearLimit);
-}
+std::int64_t readYear(std::string_view text) { return std::clamp(runtime::intVal(text), -kYearLimit, kYearLimit); }
 
 EraYear displayedEraYear(int era, std::int64_t westernYear, std::int64_t month, std::int64_t day) {
     EraYear shown{era, westernYear - getSeireki(era, 0)};

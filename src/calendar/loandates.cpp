@@ -59,9 +59,7 @@ LoanDates loanDates(const DateLine& line, std::int64_t count) {
 std::string payoffText(const Date& kansai, int era, const PayoffWords& words) {
     using runtime::Format;
     const EraYear shown = displayedEraYear(era, kansai.Year(), kansai.Month(), kansai.Day());
-    const auto number = [](std::int64_t n, std::string_view mask) {
-        return Format(static_cast<double>(n), mask);
-    };
+    const auto number = [](std::int64_t n, std::string_view mask) { return Format(static_cast<double>(n), mask); };
     std::string text = shown.era == kWestern
                            ? number(shown.year, "####")
                            : words.eraNames[static_cast<std::size_t>(shown.era)] + "  " + number(shown.year, "##");

@@ -30,9 +30,9 @@ struct DateLineTexts {
 DateLine readDateLine(int era, const DateLineTexts& texts, int delay);
 
 struct LoanDates {
-    Date kariire;  // borrowing
-    Date start;    // first payment
-    Date kansai;   // last payment
+    Date kariire; // borrowing
+    Date start;   // first payment
+    Date kansai;  // last payment
 };
 
 // `count` is the number of payments, already within the engine's cap.

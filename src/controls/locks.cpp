@@ -2,8 +2,7 @@
 
 namespace controls {
 
-LockedLayoutWidget::LockedLayoutWidget(QSize designSize, QWidget* parent)
-    : QWidget(parent), m_designSize(designSize) {}
+LockedLayoutWidget::LockedLayoutWidget(QSize designSize, QWidget* parent) : QWidget(parent), m_designSize(designSize) {}
 
 void LockedLayoutWidget::place(QWidget* control, QRect designRect, Locks locks) {
     m_placed.push_back({control, designRect, locks});

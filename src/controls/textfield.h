@@ -4,7 +4,6 @@
 // code raises neither; and switching to another window or opening a popup over the field is not
 // a loss of focus, so it raises nothing.
 
-
 #include <QLineEdit>
 
 #include <string>

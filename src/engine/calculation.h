@@ -19,8 +19,8 @@ void culcFixedAmount(LoanRecord& record, const LoanForm& form);
 
 enum class Refusal {
     None,
-    ZeroInput,   // principal, rate or count reads as zero
-    OutOfRange,  // an amount is not a finite number
+    ZeroInput,  // principal, rate or count reads as zero
+    OutOfRange, // an amount is not a finite number
 };
 
 struct Calculation {

@@ -18,19 +18,19 @@ struct LoanForm {
     std::string times = "144";           // Kaisu
     int era = calendar::kReiwa;          // RekiKind
     calendar::DateLineTexts date{"02", "3", "15", "8"};
-    int delay = calendar::kNext;         // DelayPop
-    bool isGanri = false;                // flat payment; else equal principal
-    std::int64_t numTop = 1;             // first payment listed
-    std::int64_t totalRows = -1;         // last payment listed; negative: to the end
+    int delay = calendar::kNext; // DelayPop
+    bool isGanri = false;        // flat payment; else equal principal
+    std::int64_t numTop = 1;     // first payment listed
+    std::int64_t totalRows = -1; // last payment listed; negative: to the end
 };
 
 // What a calculation settles.
 struct LoanRecord {
     bool isGanri = false;
-    double hPart = 0.0;   // the fixed payment of a flat-payment loan
-    double gPart = 0.0;   // the fixed principal part of an equal-principal loan
-    double gankin = 0.0;  // principal
-    double rate = 0.0;    // interest per day, as a fraction of the balance
+    double hPart = 0.0;  // the fixed payment of a flat-payment loan
+    double gPart = 0.0;  // the fixed principal part of an equal-principal loan
+    double gankin = 0.0; // principal
+    double rate = 0.0;   // interest per day, as a fraction of the balance
     std::int64_t nTimes = 0;
     std::int64_t numTop = 1;
     std::int64_t totalRows = -1;

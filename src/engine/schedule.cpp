@@ -54,8 +54,7 @@ std::optional<std::vector<Row>> scheduleRows(const LoanRecord& record, int era, 
             amount = principal + interest;
         }
         balance -= principal;
-        if (!std::isfinite(amount) || !std::isfinite(principal) || !std::isfinite(balance))
-            return std::nullopt;
+        if (!std::isfinite(amount) || !std::isfinite(principal) || !std::isfinite(balance)) return std::nullopt;
 
         if (record.numTop <= i + 1) {
             // A row's year shows under the era in force; once it moves on, later rows follow.

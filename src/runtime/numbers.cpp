@@ -18,8 +18,7 @@ std::int64_t magnitude(std::string_view mantissa, std::int64_t exponent) {
     const auto point = mantissa.find('.');
     const std::string_view whole = mantissa.substr(0, point);
     const auto firstWhole = whole.find_first_not_of('0');
-    if (firstWhole != std::string_view::npos)
-        return exponent + static_cast<std::int64_t>(whole.size() - firstWhole);
+    if (firstWhole != std::string_view::npos) return exponent + static_cast<std::int64_t>(whole.size() - firstWhole);
     if (point == std::string_view::npos) return std::numeric_limits<std::int64_t>::min();
     const std::string_view fraction = mantissa.substr(point + 1);
     const auto firstFraction = fraction.find_first_not_of('0');
@@ -52,8 +51,7 @@ double Val(std::string_view text) {
     if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
         std::size_t j = i + 1;
         bool negativeExponent = false;
-        if (j < text.size() && (text[j] == '+' || text[j] == '-'))
-            negativeExponent = text[j++] == '-';
+        if (j < text.size() && (text[j] == '+' || text[j] == '-')) negativeExponent = text[j++] == '-';
         const std::size_t exponentStart = j;
         while (j < text.size() && isDigit(text[j])) {
             exponent = std::min<std::int64_t>(exponent * 10 + (text[j] - '0'), 1'000'000'000);
@@ -69,8 +67,8 @@ double Val(std::string_view text) {
 
     const std::string_view number = text.substr(start, end - start);
     double value = 0.0;
-    const auto [ptr, error] = std::from_chars(number.data(), number.data() + number.size(), value,
-                                              std::chars_format::general);
+    const auto [ptr, error] =
+        std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::general);
     if (error == std::errc::result_out_of_range) {
         const auto exponentAt = number.find_first_of("eE");
         const bool overflow = magnitude(number.substr(0, exponentAt), exponent) > 0;
@@ -104,10 +102,9 @@ std::string Format(double value, std::string_view mask) {
     std::array<char, 400> digits; // written by to_chars before any is read
     char* const first = digits.data();
     const double magnitude = std::fabs(whole);
-    const auto written =
-        magnitude < 9.2e18
-            ? std::to_chars(first, first + digits.size(), static_cast<std::uint64_t>(magnitude))
-            : std::to_chars(first, first + digits.size(), magnitude, std::chars_format::fixed, 0);
+    const auto written = magnitude < 9.2e18
+                             ? std::to_chars(first, first + digits.size(), static_cast<std::uint64_t>(magnitude))
+                             : std::to_chars(first, first + digits.size(), magnitude, std::chars_format::fixed, 0);
     const auto count = static_cast<std::size_t>(written.ptr - first);
 
     const auto zeros = static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '0'));

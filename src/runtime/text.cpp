@@ -26,9 +26,7 @@ std::string Join(const std::vector<std::string>& parts, std::string_view separat
     return joined;
 }
 
-std::size_t CountFields(std::string_view text, std::string_view separator) {
-    return Split(text, separator).size();
-}
+std::size_t CountFields(std::string_view text, std::string_view separator) { return Split(text, separator).size(); }
 
 std::string NthField(std::string_view text, std::string_view separator, std::size_t index) {
     const auto parts = Split(text, separator);

@@ -84,8 +84,8 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
         form->place(f, rect);
         return f;
     };
-    const auto bevel = [&](const char* name, BevelButton::Style style, const strings::Constant& caption,
-                           QRect rect, controls::Locks locks = controls::Locks(Lock::Left) | Lock::Top) {
+    const auto bevel = [&](const char* name, BevelButton::Style style, const strings::Constant& caption, QRect rect,
+                           controls::Locks locks = controls::Locks(Lock::Left) | Lock::Top) {
         auto* b = new BevelButton(style, form);
         b->setObjectName(name);
         b->setCaption(text(caption));
@@ -103,8 +103,7 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
     (new QHBoxLayout(Rectangle1))->setContentsMargins(0, 0, 0, 0);
     Rectangle1->layout()->addWidget(SelNum);
 
-    label(0, strings::kLabelText0, {20, 23, 56, 20}, Qt::AlignLeft)
-        ->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label(0, strings::kLabelText0, {20, 23, 56, 20}, Qt::AlignLeft)->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label(1, strings::kLabelText1, {168, 23, 38, 20}, Qt::AlignRight);
     label(2, strings::kLabelText2, {244, 23, 42, 20}, Qt::AlignRight);
     label(3, strings::kLabelText3, {304, 55, 62, 20}, Qt::AlignRight);
@@ -148,8 +147,10 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
 
     const controls::Locks bottom = controls::Locks(Lock::Left) | Lock::Bottom;
     BevelNewNext = bevel("BevelNewNext", BevelButton::Style::Push, strings::kNewNext, {20, 598, 140, 22}, bottom);
-    BevelDispAll = bevel("BevelDispAll", BevelButton::Style::Push, strings::kShowPayoffButton, {172, 598, 140, 22}, bottom);
-    BevelDelBelow = bevel("BevelDelBelow", BevelButton::Style::Push, strings::kHideBelowButton, {324, 598, 140, 22}, bottom);
+    BevelDispAll =
+        bevel("BevelDispAll", BevelButton::Style::Push, strings::kShowPayoffButton, {172, 598, 140, 22}, bottom);
+    BevelDelBelow =
+        bevel("BevelDelBelow", BevelButton::Style::Push, strings::kHideBelowButton, {324, 598, 140, 22}, bottom);
     BevelNewNext->setToolTip(text(strings::kNewNextTip));
     BevelDispAll->setToolTip(text(strings::kShowPayoffTip));
     BevelDelBelow->setToolTip(text(strings::kHideBelowTip));
@@ -173,9 +174,10 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
 
 void MainWindow::setTabOrder() {
     // The input fields in reading order, then the table, then the other controls.
-    const QWidget* const order[] = {GankinField, Nenriritsu, Kaisu, Shokai, StartY, StartM, StartD, StartDX,
-                                    ListBox1, RisokuTotal, SelectAllButton, BevelNewNext, BevelDispAll,
-                                    BevelDelBelow, RekiKind, DelayPop, KindPopup, CulcButton, HelpBtn};
+    const QWidget* const order[] = {GankinField,     Nenriritsu,   Kaisu,        Shokai,        StartY,
+                                    StartM,          StartD,       StartDX,      ListBox1,      RisokuTotal,
+                                    SelectAllButton, BevelNewNext, BevelDispAll, BevelDelBelow, RekiKind,
+                                    DelayPop,        KindPopup,    CulcButton,   HelpBtn};
     for (std::size_t i = 0; i + 1 < std::size(order); ++i)
         QWidget::setTabOrder(const_cast<QWidget*>(order[i]), const_cast<QWidget*>(order[i + 1]));
 }
@@ -272,9 +274,7 @@ void MainWindow::changeEvent(QEvent* event) {
 // ---------------------------------------------------------------------------------------------
 // Calculation
 
-calendar::DateFieldTexts MainWindow::dateFieldTexts() const {
-    return {StartY->Text(), StartM->Text(), StartD->Text()};
-}
+calendar::DateFieldTexts MainWindow::dateFieldTexts() const { return {StartY->Text(), StartM->Text(), StartD->Text()}; }
 
 calendar::PayoffWords MainWindow::payoffWords() {
     calendar::PayoffWords words;
@@ -413,8 +413,7 @@ void MainWindow::StartM_LostFocus() {
 }
 
 void MainWindow::StartD_LostFocus() {
-    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), dateFieldTexts()))
-        StartD->setText(*day);
+    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), dateFieldTexts())) StartD->setText(*day);
     optStartY();
     if (curText != StartD->Text()) CulcButton->Push();
 }
@@ -550,8 +549,8 @@ void MainWindow::BevelNewNext_Action() {
     // After the cut the selected payment is the table's last row, its balance the new principal.
     hideBelow();
     const int n = ListBox1->ListCount();
-    const table::OldLoan old{RekiKind->MenuValue(), StartY->Text(), Kaisu->Text(), Shokai->Text(),
-                             record.dates.start, runtime::intVal(StartDX->Text())};
+    const table::OldLoan old{RekiKind->MenuValue(), StartY->Text(),     Kaisu->Text(),
+                             Shokai->Text(),        record.dates.start, runtime::intVal(StartDX->Text())};
     const table::NewLoan loan = table::recombination(old, ListBox1->RowCells(n - 1), n);
 
     auto* window = new MainWindow;

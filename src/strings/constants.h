@@ -60,17 +60,19 @@ inline constexpr Constant kGanri{"MainWindow", "kGanri", "Flat payment "};
 inline constexpr Constant kCulc{"MainWindow", "kCulc", "Culc"};
 inline constexpr Constant kHeader{"MainWindow", "kHeader", "No.\tRepayment\tAmount\tPrincipal\tInterest\tBalance"};
 inline constexpr Constant kNewNext{"MainWindow", "kNewNext", "Recombination"};
-inline constexpr Constant kNewNextTip{"MainWindow", "kNewNextTip",
+inline constexpr Constant kNewNextTip{
+    "MainWindow", "kNewNextTip",
     "Move the rows below selected to another table. You can simulate refinancing by changing the "
     "method in the new table.\n(Does not work for multi-line selection)"};
 inline constexpr Constant kShowPayoffButton{"MainWindow", "kShowPayoffButton", "Show until pay off"};
 inline constexpr Constant kShowPayoffTip{"MainWindow", "kShowPayoffTip", "Show all hidden parts"};
 inline constexpr Constant kHideBelowButton{"MainWindow", "kHideBelowButton", "Hide below"};
 inline constexpr Constant kHideBelowTip{"MainWindow", "kHideBelowTip",
-    "Hide after selected row.\n(Does not work for multi-line selection)"};
+                                        "Hide after selected row.\n(Does not work for multi-line selection)"};
 
 // HelpWindow
-inline constexpr Constant kHelpText{"HelpWindow", "kHelpText",
+inline constexpr Constant kHelpText{
+    "HelpWindow", "kHelpText",
     "[Operation description]\n"
     "\n"
     "1. About \u201CRepayment Start Date\u201D\n"
@@ -94,13 +96,31 @@ inline constexpr Constant kHelpText{"HelpWindow", "kHelpText",
 // AboutWindow
 inline constexpr Constant kCloseBtn{"AboutWindow", "kCloseBtn", "Close"};
 
-inline constexpr std::array kAllConstants{
-    kAppName, kAppName2, kFileMenu, kFileNew, kFileQuit, kEditMenu, kEditUndo, kEditRedo,
-    kEditCut, kEditCopy, kEditPaste, kEditClear, kEditSelectAll, kAppleAbout,
-    kHelpButton, kLabelText0, kLabelText1, kLabelText2, kLabelText3, kLabelText7, kLabelText8,
-    kLabelText9, kLabel9tip, kLabelText10, kLabelText11, kYear, kMonth, kDay, kDay_th,
-    kRekiCombination, kRekiXst, kRekiS, kRekiH, kRekiR, kNext, k2After, k3After, kSelectAll,
-    kDeselectAll, kGankin, kGanri, kCulc, kHeader, kNewNext, kNewNextTip, kShowPayoffButton,
-    kShowPayoffTip, kHideBelowButton, kHideBelowTip, kHelpText, kCloseBtn};
+inline constexpr std::array kAllConstants{kAppName,       kAppName2,
+                                          kFileMenu,      kFileNew,
+                                          kFileQuit,      kEditMenu,
+                                          kEditUndo,      kEditRedo,
+                                          kEditCut,       kEditCopy,
+                                          kEditPaste,     kEditClear,
+                                          kEditSelectAll, kAppleAbout,
+                                          kHelpButton,    kLabelText0,
+                                          kLabelText1,    kLabelText2,
+                                          kLabelText3,    kLabelText7,
+                                          kLabelText8,    kLabelText9,
+                                          kLabel9tip,     kLabelText10,
+                                          kLabelText11,   kYear,
+                                          kMonth,         kDay,
+                                          kDay_th,        kRekiCombination,
+                                          kRekiXst,       kRekiS,
+                                          kRekiH,         kRekiR,
+                                          kNext,          k2After,
+                                          k3After,        kSelectAll,
+                                          kDeselectAll,   kGankin,
+                                          kGanri,         kCulc,
+                                          kHeader,        kNewNext,
+                                          kNewNextTip,    kShowPayoffButton,
+                                          kShowPayoffTip, kHideBelowButton,
+                                          kHideBelowTip,  kHelpText,
+                                          kCloseBtn};
 
 } // namespace strings

@@ -45,15 +45,17 @@ std::string joined(const std::vector<engine::Row>& rows, Cell cell, std::string_
 } // namespace
 
 std::string toTsv(const std::vector<engine::Row>& rows) {
-    return joined(rows, [](const std::string& cell) { return cell; }, "\t", "", "\n");
+    return joined(
+        rows, [](const std::string& cell) { return cell; }, "\t", "", "\n");
 }
 
 std::string toCsv(const std::vector<engine::Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
 
 std::string toHtml(const std::vector<engine::Row>& rows) {
     return "<table>" +
-           joined(rows, [](const std::string& cell) { return "<td>" + htmlEscaped(cell) + "</td>"; }, "",
-                  "<tr>", "</tr>") +
+           joined(
+               rows, [](const std::string& cell) { return "<td>" + htmlEscaped(cell) + "</td>"; }, "", "<tr>",
+               "</tr>") +
            "</table>";
 }
 

@@ -11,17 +11,17 @@
 namespace table {
 
 struct OldLoan {
-    int era;                  // RekiKind
-    std::string year;         // StartY
-    std::string times;        // Kaisu
-    std::string firstRow;     // Shokai
+    int era;              // RekiKind
+    std::string year;     // StartY
+    std::string times;    // Kaisu
+    std::string firstRow; // Shokai
     calendar::Date firstPayment;
-    std::int64_t payDay;      // StartDX, as the schedule reads it
+    std::int64_t payDay; // StartDX, as the schedule reads it
 };
 
 struct NewLoan {
-    std::string principal;    // the selected row's Balance, as it reads
-    std::string times;        // the payments that remain
+    std::string principal; // the selected row's Balance, as it reads
+    std::string times;     // the payments that remain
     int era;
     std::string year, month, day;
 };

@@ -104,8 +104,7 @@ void printTable(const engine::Calculation& calc, std::ostream& out) {
 void printJson(const engine::Calculation& calc, std::ostream& out) {
     out << "{\"payoff\": " << jsonString(calc.payoffText) << ", \"header\": " << jsonArray(headerRow())
         << ", \"rows\": [";
-    for (std::size_t i = 0; i < calc.rows.size(); ++i)
-        out << (i > 0 ? ", " : "") << jsonArray(calc.rows[i]);
+    for (std::size_t i = 0; i < calc.rows.size(); ++i) out << (i > 0 ? ", " : "") << jsonArray(calc.rows[i]);
     out << "]}\n";
 }
 
@@ -116,17 +115,17 @@ int usageError(std::ostream& err, const std::string& problem) {
 
 } // namespace
 
-int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today,
-                       std::ostream& out, std::ostream& err) {
+int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
+                       std::ostream& err) {
     engine::LoanForm form;
-    form.date = {runtime::Str(today.Year() - calendar::getSeireki(calendar::kReiwa, 0)),
-                 runtime::Str(today.Month()), runtime::Str(today.Day()), "8"};
+    form.date = {runtime::Str(today.Year() - calendar::getSeireki(calendar::kReiwa, 0)), runtime::Str(today.Month()),
+                 runtime::Str(today.Day()), "8"};
     int format = 0;
 
-    const std::map<std::string, std::string*> texts{
-        {"--principal", &form.principal}, {"--rate", &form.rate},     {"--times", &form.times},
-        {"--year", &form.date.year},      {"--month", &form.date.month}, {"--day", &form.date.day},
-        {"--pay-day", &form.date.payDay}};
+    const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
+                                                    {"--times", &form.times},         {"--year", &form.date.year},
+                                                    {"--month", &form.date.month},    {"--day", &form.date.day},
+                                                    {"--pay-day", &form.date.payDay}};
 
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& option = args[i];

@@ -10,7 +10,7 @@
 
 namespace tools {
 
-int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today,
-                       std::ostream& out, std::ostream& err);
+int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
+                       std::ostream& err);
 
 } // namespace tools

@@ -60,9 +60,8 @@ struct FirstRowCase {
 
 TEST_F(FormTest, FirstRowOutsideTheCountFallsBackToOne) {
     const FirstRowCase cases[] = {
-        {"10", "10", 135, "010"}, {"0", "1", 144, "001"},  {"-3", "1", 144, "001"},
-        {"20", "20", 125, "020"}, {"abc", "1", 144, "001"}, {"145", "1", 144, "001"},
-        {"144", "144", 1, "144"}, {"2.9", "2.9", 143, "002"},
+        {"10", "10", 135, "010"}, {"0", "1", 144, "001"},   {"-3", "1", 144, "001"},  {"20", "20", 125, "020"},
+        {"abc", "1", 144, "001"}, {"145", "1", 144, "001"}, {"144", "144", 1, "144"}, {"2.9", "2.9", 143, "002"},
     };
     for (const auto& c : cases) {
         typeAndLeave(w->Shokai, c.typed);
@@ -232,9 +231,20 @@ TEST_F(FormTest, SwitchingWindowsDoesNotLeaveTheField) {
 // --- Any text ------------------------------------------------------------------------------------
 
 TEST_F(FormTest, AnyTextInAnyFieldLeavesAConsistentTable) {
-    const QString hostile[] = {"", "   ", "-0", "1e999", "nan", QString(10000, '9'), "１２３", "1\t2\n3",
-                               "-1e999", "9223372036854775808", QString(2000, 'x'), "0.5", "-12"};
-    controls::TextField* const fields[] = {w->GankinField, w->Nenriritsu, w->Kaisu, w->Shokai,
+    const QString hostile[] = {"",
+                               "   ",
+                               "-0",
+                               "1e999",
+                               "nan",
+                               QString(10000, '9'),
+                               "１２３",
+                               "1\t2\n3",
+                               "-1e999",
+                               "9223372036854775808",
+                               QString(2000, 'x'),
+                               "0.5",
+                               "-12"};
+    controls::TextField* const fields[] = {w->GankinField, w->Nenriritsu, w->Kaisu,  w->Shokai,
                                            w->StartY,      w->StartM,     w->StartD, w->StartDX};
     for (controls::TextField* field : fields) {
         for (const QString& text : hostile) {

@@ -75,8 +75,8 @@ TEST_F(WindowTest, ReturnInAFieldPressesCulc) {
 
 TEST_F(WindowTest, TabGoesThroughTheFieldsInReadingOrderThenTheTable) {
     QTest::mouseClick(w->GankinField, Qt::LeftButton);
-    const QWidget* expected[] = {w->Nenriritsu, w->Kaisu, w->Shokai, w->StartY, w->StartM,
-                                 w->StartD, w->StartDX, w->ListBox1};
+    const QWidget* expected[] = {w->Nenriritsu, w->Kaisu,  w->Shokai,  w->StartY,
+                                 w->StartM,     w->StartD, w->StartDX, w->ListBox1};
     for (const QWidget* next : expected) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
@@ -152,11 +152,16 @@ TEST_F(WindowTest, MenusCarryTheirItemsAndStandardShortcuts) {
         const char* text;
         QKeySequence shortcut;
     } items[] = {
-        {"FileNew", "New", QKeySequence::New},          {"FileQuit", "Quit", QKeySequence::Quit},
-        {"EditUndo", "Undo", QKeySequence::Undo},       {"EditRedo", "Redo", QKeySequence::Redo},
-        {"EditCut", "Cut", QKeySequence::Cut},          {"EditCopy", "Copy", QKeySequence::Copy},
-        {"EditPaste", "Paste", QKeySequence::Paste},    {"EditClear", "Delete", QKeySequence()},
-        {"EditSelectAll", "Select All", QKeySequence::SelectAll}, {"AppleAbout", "About this App", QKeySequence()},
+        {"FileNew", "New", QKeySequence::New},
+        {"FileQuit", "Quit", QKeySequence::Quit},
+        {"EditUndo", "Undo", QKeySequence::Undo},
+        {"EditRedo", "Redo", QKeySequence::Redo},
+        {"EditCut", "Cut", QKeySequence::Cut},
+        {"EditCopy", "Copy", QKeySequence::Copy},
+        {"EditPaste", "Paste", QKeySequence::Paste},
+        {"EditClear", "Delete", QKeySequence()},
+        {"EditSelectAll", "Select All", QKeySequence::SelectAll},
+        {"AppleAbout", "About this App", QKeySequence()},
     };
     for (const auto& item : items) {
         const auto* action = w->menuBar()->findChild<QAction*>(item.name);
