@@ -136,7 +136,7 @@ struct RefusalCase {
     Refusal refusal;
 };
 
-TEST(Calculate, RefusesZeroAndNonFiniteAmounts) {
+TEST(Calculate, RefusesZeroAndInexactAmounts) {
     const RefusalCase cases[] = {
         {"", "2.0", "144", Refusal::ZeroInput},
         {"100", "0", "144", Refusal::ZeroInput},
@@ -149,6 +149,10 @@ TEST(Calculate, RefusesZeroAndNonFiniteAmounts) {
         {"100", "2", "0.5", Refusal::OutOfRange},
         {"1e308", "1e308", "144", Refusal::OutOfRange},
         {"100", "1e5", "100000", Refusal::OutOfRange},
+        {"1e400", "2", "144", Refusal::OutOfRange},
+        {"9007199254740992", "2", "144", Refusal::None},
+        {"9007199254740994", "2", "144", Refusal::OutOfRange},
+        {"9007199254740992", "2", "1", Refusal::OutOfRange}, // the one amount is principal + interest
     };
     for (const auto& c : cases) {
         LoanForm form = defaultLoan(false);

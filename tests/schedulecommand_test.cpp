@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+#include <filesystem>
+#include <fstream>
 #include <sstream>
+#include <sys/wait.h>
 
 namespace {
 
@@ -53,28 +57,72 @@ TEST(ScheduleCommand, CsvAndJson) {
                         "\"781,684\", \"618,478\", \"163,206\", \"98,731,258\"]]}\n");
 }
 
+// The built tool run as a process: its exit status and what it wrote to each stream.
+Result runTool(const std::string& args, const std::string& stdoutTo = "") {
+    const auto dir = std::filesystem::temp_directory_path();
+    const auto outFile = dir / "kestrune-schedule-test.out", errFile = dir / "kestrune-schedule-test.err";
+    const std::string command = std::string(KESTRUNE_SCHEDULE) + " " + args + " 2> " + errFile.string() + " " +
+                                (stdoutTo.empty() ? "> " + outFile.string() : stdoutTo);
+    const int status = std::system(command.c_str());
+    const auto slurp = [](const std::filesystem::path& path) {
+        std::ifstream in(path);
+        return std::string(std::istreambuf_iterator<char>(in), {});
+    };
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, stdoutTo.empty() ? slurp(outFile) : "", slurp(errFile)};
+}
+
 struct StatusCase {
-    std::vector<std::string> args;
+    const char* args;
     int status;
     const char* err;
 };
 
-TEST(ScheduleCommand, RefusalsAndBadOptions) {
+TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
     const StatusCase cases[] = {
-        {with({"--rate", "0"}), 1, "principal, rate and count must be non-zero\n"},
-        {with({"--principal", ""}), 1, "principal, rate and count must be non-zero\n"},
-        {with({"--rate", "1e-20", "--method", "flat"}), 1, "amounts out of range\n"},
-        {with({"--era", "meiji"}), 2, "kestrune-schedule: bad option or value: --era meiji"},
-        {with({"--last", "x"}), 2, "kestrune-schedule: --last takes a whole number: x"},
-        {with({"--frobnicate", "1"}), 2, "kestrune-schedule: bad option or value: --frobnicate 1"},
-        {with({"--rate"}), 2, "kestrune-schedule: unknown option or missing value: --rate"},
+        {"--rate 0", 1, "principal, rate and count must be non-zero\n"},
+        {"--principal ''", 1, "principal, rate and count must be non-zero\n"},
+        {"--rate 1e-20 --method flat", 1, "amounts out of range\n"},
+        {"--principal 1e400", 1, "amounts out of range\n"},
+        {"--principal 9007199254740992 --times 1", 1, "amounts out of range\n"},
+        {"--era meiji", 2, "kestrune-schedule: bad value for --era: meiji\n"},
+        {"--format=xml", 2, "kestrune-schedule: bad value for --format: xml\n"},
+        {"--last x", 2, "kestrune-schedule: --last takes a whole number: x\n"},
+        {"--frobnicate 1", 2, "kestrune-schedule: unknown option: --frobnicate\n"},
+        {"-x", 2, "kestrune-schedule: unknown option: -x\n"},
+        {"--rate", 2, "kestrune-schedule: missing value for --rate\n"},
+        {"--times 100000 --format csv > /dev/full", 1,
+         "kestrune-schedule: cannot write output: No space left on device\n"},
+        {">&-", 1, "kestrune-schedule: cannot write output: Bad file descriptor\n"},
     };
     for (const auto& c : cases) {
-        const Result r = run(c.args);
-        EXPECT_EQ(r.status, c.status) << c.err;
-        EXPECT_EQ(r.err.substr(0, std::string(c.err).size()), c.err);
-        EXPECT_EQ(r.out, "") << "nothing on stdout when refused";
+        const std::string redirect = std::string(c.args).find('>') != std::string::npos ? " " : "";
+        const Result r = runTool(c.args, redirect);
+        EXPECT_EQ(r.status, c.status) << c.args;
+        EXPECT_EQ(r.err.substr(0, std::string(c.err).size()), c.err) << c.args;
+        EXPECT_EQ(r.out, "") << c.args;
     }
+}
+
+TEST(ScheduleTool, OptionsTakeAValueAfterAnEqualsSignAndHelpAShortName) {
+    const Result spaced = runTool("--era western --year 2020 --month 3 --day 15 --last 2 --format csv");
+    const Result joined = runTool("--era=western --year=2020 --month=3 --day=15 --last=2 --format=csv");
+    EXPECT_EQ(spaced.status, 0);
+    EXPECT_EQ(joined.out, spaced.out);
+    EXPECT_EQ(runTool("-h").out, runTool("--help").out);
+    EXPECT_EQ(runTool("--times 100000", "| head -c 10 > /dev/null").err, "") << "a closed pipe is no error to report";
+}
+
+TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    const int year = local.tm_year + 1900;
+    const std::string form = "--month 1 --day 1 --times 1 --format json --era ";
+    const std::string western = "{\"payoff\": \"" + std::to_string(year) + " / 1 / 8 \"";
+    const std::string reiwa = "{\"payoff\": \"Reiwa  " + std::to_string(year - 2018) + " / 1 / 8 \"";
+    EXPECT_EQ(runTool(form + "western").out.substr(0, western.size()), western);
+    for (const char* era : {"showa", "heisei", "reiwa"})
+        EXPECT_EQ(runTool(form + era).out.substr(0, reiwa.size()), reiwa) << era;
 }
 
 TEST(ScheduleCommand, HelpExplainsEveryOption) {

@@ -4,7 +4,6 @@
 #include "runtime/text.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace engine {
 namespace {
@@ -54,7 +53,8 @@ Calculation calculate(const LoanForm& form, const calendar::PayoffWords& words) 
     calc.record.numTop = form.numTop;
     calc.record.totalRows = form.totalRows;
     const double fixedAmount = calc.record.isGanri ? calc.record.hPart : calc.record.gPart;
-    auto rows = std::isfinite(fixedAmount) ? scheduleRows(calc.record, form.era, line.payDay) : std::nullopt;
+    const bool exact = isExactAmount(calc.record.gankin) && isExactAmount(fixedAmount);
+    auto rows = exact ? scheduleRows(calc.record, form.era, line.payDay) : std::nullopt;
     if (!rows) {
         calc.refusal = Refusal::OutOfRange;
         return calc;

@@ -20,7 +20,7 @@ void culcFixedAmount(LoanRecord& record, const LoanForm& form);
 enum class Refusal {
     None,
     ZeroInput,  // principal, rate or count reads as zero
-    OutOfRange, // an amount is not a finite number
+    OutOfRange, // an amount is beyond what a double holds to the unit
 };
 
 struct Calculation {

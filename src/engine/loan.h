@@ -11,6 +11,11 @@ namespace engine {
 // A count of payments above this acts as this many, in the pay-off date as in the schedule.
 constexpr std::int64_t kMaxPayments = 100'000;
 
+// Amounts up to 2^53 are whole numbers a double holds to the unit; a calculation that needs a
+// larger one (or one that is not finite) is refused rather than shown rounded.
+constexpr double kMaxExactAmount = 9'007'199'254'740'992.0;
+inline bool isExactAmount(double amount) { return amount >= -kMaxExactAmount && amount <= kMaxExactAmount; }
+
 // The form, as the texts and choices the calculate action reads.
 struct LoanForm {
     std::string principal = "100000000"; // GankinField, commas allowed

@@ -4,7 +4,6 @@
 #include "runtime/numbers.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace engine {
 namespace {
@@ -54,7 +53,8 @@ std::optional<std::vector<Row>> scheduleRows(const LoanRecord& record, int era, 
             amount = principal + interest;
         }
         balance -= principal;
-        if (!std::isfinite(amount) || !std::isfinite(principal) || !std::isfinite(balance)) return std::nullopt;
+        if (!isExactAmount(amount) || !isExactAmount(principal) || !isExactAmount(interest) || !isExactAmount(balance))
+            return std::nullopt;
 
         if (record.numTop <= i + 1) {
             // A row's year shows under the era in force; once it moves on, later rows follow.

@@ -21,7 +21,7 @@ enum Column : std::size_t { kNumber, kDate, kAmount, kPrincipal, kInterest, kBal
 inline constexpr std::string_view kAmountMask = "###,###,###,###";
 
 // The rows of payments numTop to the limit (totalRows or the last payment). Empty optional
-// where an amount of a payment walked is not a finite number.
+// where an amount of a payment walked is beyond kMaxExactAmount.
 std::optional<std::vector<Row>> scheduleRows(const LoanRecord& record, int era, std::int64_t payDay);
 
 } // namespace engine

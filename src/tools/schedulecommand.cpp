@@ -18,7 +18,8 @@ namespace {
 constexpr std::string_view kUsage = R"(usage: kestrune-schedule [options]
 
 Prints the repayment table of a loan, calculated from the texts given as a user would type
-them into the form. No field corrections are applied.
+them into the form. No field corrections are applied. Each option is given as
+"--option VALUE" or "--option=VALUE".
 
   --principal TEXT   principal, commas allowed (default "100000000")
   --rate TEXT        annual rate in percent (default "2.0")
@@ -26,27 +27,25 @@ them into the form. No field corrections are applied.
   --first TEXT       number of the first payment listed (default "1")
   --last N           number of the last payment listed; negative or absent: to the end
   --era ERA          western, showa, heisei or reiwa: the era of --year (default reiwa)
-  --year TEXT        borrowing year in that era (default: this year)
+  --year TEXT        borrowing year in that era (default: this year counted in that era,
+                     so that the borrowing date is today whichever era names it)
   --month TEXT       borrowing month (default: this month)
   --day TEXT         borrowing day (default: today)
   --pay-day TEXT     day of the month of each payment; above 31 is the last day (default "8")
   --delay DELAY      next, 2after or 3after: which pay day comes first (default next)
   --method METHOD    flat (flat payment) or equal (equal principal, the default)
   --format FORMAT    table (default), tsv, csv or json
-  --help             print this text
+  -h, --help         print this text
+
+Exit status: 0 with the table printed; 1 when the calculation is refused (a zero principal,
+rate or count, or amounts beyond 2^53) or the output cannot be written; 2 for a bad option.
 )";
 
-constexpr std::array kEras{"western", "showa", "heisei", "reiwa"};
-constexpr std::array kDelays{"next", "2after", "3after"};
-constexpr std::array kMethods{"flat", "equal"};
-constexpr std::array kFormats{"table", "tsv", "csv", "json"};
-
-template <std::size_t N>
-std::optional<int> choiceIndex(const std::array<const char*, N>& choices, const std::string& value) {
-    const auto it = std::find(choices.begin(), choices.end(), value);
-    if (it == choices.end()) return std::nullopt;
-    return static_cast<int>(it - choices.begin());
-}
+// The words of each choice, in the order of the values they stand for.
+const std::vector<std::string_view> kEras{"western", "showa", "heisei", "reiwa"};
+const std::vector<std::string_view> kDelays{"next", "2after", "3after"};
+const std::vector<std::string_view> kMethods{"flat", "equal"};
+const std::vector<std::string_view> kFormats{"table", "tsv", "csv", "json"};
 
 std::optional<std::int64_t> wholeNumber(const std::string& text) {
     std::int64_t n = 0;
@@ -109,7 +108,7 @@ void printJson(const engine::Calculation& calc, std::ostream& out) {
 }
 
 int usageError(std::ostream& err, const std::string& problem) {
-    err << "kestrune-schedule: " << problem << "\n\n" << kUsage;
+    err << "kestrune-schedule: " << problem << "\nTry 'kestrune-schedule --help' for the options.\n";
     return 2;
 }
 
@@ -118,50 +117,54 @@ int usageError(std::ostream& err, const std::string& problem) {
 int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
                        std::ostream& err) {
     engine::LoanForm form;
-    form.date = {runtime::Str(today.Year() - calendar::getSeireki(calendar::kReiwa, 0)), runtime::Str(today.Month()),
-                 runtime::Str(today.Day()), "8"};
+    form.date = {"", runtime::Str(today.Month()), runtime::Str(today.Day()), "8"};
+    std::optional<std::string> year;
     int format = 0;
+    int method = 1;
 
     const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
-                                                    {"--times", &form.times},         {"--year", &form.date.year},
-                                                    {"--month", &form.date.month},    {"--day", &form.date.day},
-                                                    {"--pay-day", &form.date.payDay}};
+                                                    {"--times", &form.times},         {"--month", &form.date.month},
+                                                    {"--day", &form.date.day},        {"--pay-day", &form.date.payDay}};
+    const std::map<std::string, std::pair<const std::vector<std::string_view>*, int*>> choices{
+        {"--era", {&kEras, &form.era}},
+        {"--delay", {&kDelays, &form.delay}},
+        {"--method", {&kMethods, &method}},
+        {"--format", {&kFormats, &format}}};
 
     for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::string& option = args[i];
-        if (option == "--help") {
+        if (args[i] == "--help" || args[i] == "-h") {
             out << kUsage;
             return 0;
         }
-        if (i + 1 >= args.size()) return usageError(err, "unknown option or missing value: " + option);
-        const std::string& value = args[++i];
-        std::optional<int> choice;
+        // "--option value" or "--option=value".
+        const auto equals = args[i].starts_with("--") ? args[i].find('=') : std::string::npos;
+        const std::string option = args[i].substr(0, equals);
+        const bool known = texts.contains(option) || choices.contains(option) || option == "--year" ||
+                           option == "--first" || option == "--last";
+        if (!known) return usageError(err, "unknown option: " + option);
+        if (equals == std::string::npos && i + 1 >= args.size()) return usageError(err, "missing value for " + option);
+        const std::string value = equals == std::string::npos ? args[++i] : args[i].substr(equals + 1);
+
         if (const auto text = texts.find(option); text != texts.end()) {
             *text->second = value;
-            continue;
-        }
-        if (option == "--first") {
+        } else if (const auto choice = choices.find(option); choice != choices.end()) {
+            const auto& [names, target] = choice->second;
+            const auto it = std::find(names->begin(), names->end(), value);
+            if (it == names->end()) return usageError(err, "bad value for " + option + ": " + value);
+            *target = static_cast<int>(it - names->begin());
+        } else if (option == "--year") {
+            year = value;
+        } else if (option == "--first") {
             form.numTop = runtime::intVal(value);
-            continue;
-        }
-        if (option == "--last") {
+        } else {
             const auto last = wholeNumber(value);
             if (!last) return usageError(err, "--last takes a whole number: " + value);
             form.totalRows = *last < 0 ? -1 : *last;
-            continue;
-        }
-        if (option == "--era" && (choice = choiceIndex(kEras, value))) {
-            form.era = *choice;
-        } else if (option == "--delay" && (choice = choiceIndex(kDelays, value))) {
-            form.delay = *choice;
-        } else if (option == "--method" && (choice = choiceIndex(kMethods, value))) {
-            form.isGanri = *choice == 0;
-        } else if (option == "--format" && (choice = choiceIndex(kFormats, value))) {
-            format = *choice;
-        } else {
-            return usageError(err, "bad option or value: " + option + " " + value);
         }
     }
+    // Without --year, the borrowing date is today, counted in the chosen era.
+    form.date.year = year ? *year : runtime::Str(today.Year() - calendar::getSeireki(form.era, 0));
+    form.isGanri = method == 0;
 
     const engine::Calculation calc = engine::calculate(form);
     if (calc.refusal == engine::Refusal::ZeroInput) {
