@@ -1,6 +1,7 @@
 #include "controls/textfield.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 
 namespace controls {
 namespace {
@@ -16,6 +17,16 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent) {}
 
 void TextField::setText(std::string_view text) {
     QLineEdit::setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+bool TextField::event(QEvent* event) {
+    // The field claims the Copy key only with text to copy; otherwise the window's Copy acts.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) &&
+        !hasSelectedText()) {
+        event->ignore();
+        return true;
+    }
+    return QLineEdit::event(event);
 }
 
 void TextField::focusInEvent(QFocusEvent* event) {

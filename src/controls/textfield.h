@@ -2,7 +2,7 @@
 // A one-line text field with GotFocus and LostFocus, as the form's handlers expect them: the
 // LostFocus of the field being left comes before the GotFocus of the next; writing the text from
 // code raises neither; and switching to another window or opening a popup over the field is not
-// a loss of focus, so it raises nothing.
+// a loss of focus, so it raises nothing. Copy with no text selected is left to the window.
 
 #include <QLineEdit>
 
@@ -27,6 +27,7 @@ signals:
     void LostFocus();
 
 protected:
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

@@ -30,6 +30,7 @@ AboutWindow::AboutWindow(QWidget* parent)
     setObjectName("AboutWindow");
     setFixedSize(300, 320);
     setWindowModality(Qt::ApplicationModal);
+    addActions({App::instance()->fileNewAction(), App::instance()->fileQuitAction()});
 
     appName = centredLabel(this, strings::text(strings::kAppName), {30, 122, 230, 46}, 26, true);
     verName = centredLabel(this, "Version", {70, 167, 150, 20}, 16);

@@ -7,6 +7,7 @@
 #include "shell/menubar.h"
 #include "strings/lookup.h"
 
+#include <QAction>
 #include <QIcon>
 #include <QLocale>
 #include <QMenuBar>
@@ -23,6 +24,7 @@ App::App(int& argc, char** argv) : QApplication(argc, argv) {
     setQuitOnLastWindowClosed(true);
     loadTranslation();
     setApplicationDisplayName(strings::text(strings::kAppName));
+    createApplicationActions();
 #ifdef Q_OS_MACOS
     // The menu bar macOS shows while no window is open, so that New still works.
     m_menuBarWithoutWindow = new QMenuBar(nullptr);
@@ -40,7 +42,28 @@ void App::loadTranslation() {
     if (m_translator.load(QLocale(), "kestrune", "_", ":/i18n")) installTranslator(&m_translator);
 }
 
+void App::createApplicationActions() {
+    m_fileNew = new QAction(strings::text(strings::kFileNew), this);
+    m_fileNew->setObjectName("FileNew");
+    m_fileNew->setShortcut(QKeySequence::New);
+    connect(m_fileNew, &QAction::triggered, this, &App::_FileNew_Action);
+    m_fileQuit = new QAction(strings::text(strings::kFileQuit), this);
+    m_fileQuit->setObjectName("FileQuit");
+    // Ctrl+Q where the platform names no Quit key (as on the offscreen platform).
+    const QKeySequence quit(QKeySequence::Quit);
+    m_fileQuit->setShortcut(quit.isEmpty() ? QKeySequence(Qt::CTRL | Qt::Key_Q) : quit);
+    m_fileQuit->setMenuRole(QAction::QuitRole);
+    // Every window closes (each hides the help window as it goes), then the application ends,
+    // also where no window was open.
+    connect(m_fileQuit, &QAction::triggered, this, [] {
+        QApplication::closeAllWindows();
+        QApplication::quit();
+    });
+}
+
 bool App::_FileNew_Action() {
+    // From the About window's shortcut: the information gives way to the new window.
+    if (m_about) m_about->hide();
     if (isExistHelp) {
         if (MainWindow* parent = helpWindow()->parentWin) parent->HelpBtn->setValue(false);
         helpWindow()->hide();

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QTranslator>
 
+class QAction;
 class QMenuBar;
 
 namespace shell {
@@ -29,6 +30,9 @@ public:
     bool isExistHelp = false;
 
     bool _FileNew_Action();
+    // File > New and File > Quit: their shortcuts work in every window of the application.
+    QAction* fileNewAction() const { return m_fileNew; }
+    QAction* fileQuitAction() const { return m_fileQuit; }
 
     // The implicit help and about windows, created at first use.
     HelpWindow* helpWindow();
@@ -43,7 +47,11 @@ public:
 private:
     void loadTranslation();
 
+    void createApplicationActions();
+
     QTranslator m_translator;
+    QAction* m_fileNew = nullptr;
+    QAction* m_fileQuit = nullptr;
     QPointer<HelpWindow> m_help;
     QPointer<AboutWindow> m_about;
     QList<QPointer<MainWindow>> m_windows;

@@ -10,10 +10,12 @@
 
 namespace shell {
 
-HelpWindow::HelpWindow(QWidget* parent) : QWidget(parent, Qt::Window) {
+HelpWindow::HelpWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("HelpWindow");
-    setWindowTitle(" ");
+    setWindowTitle(strings::text(strings::kAppName));
+    addActions({App::instance()->fileNewAction(), App::instance()->fileQuitAction()});
     setFixedSize(400, 500);
     Label1 = new QLabel(strings::text(strings::kHelpText), this);
     Label1->setObjectName("Label1");

@@ -65,6 +65,9 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     GankinField_Open();
     Shokai_Open();
     bindHandlers();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && now->window() == this && !qobject_cast<QMenuBar*>(now)) m_lastFocusedControl = now;
+    });
     Event_Open();
 }
 
@@ -135,11 +138,8 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
     ListBox1->setObjectName("ListBox1");
     form->place(ListBox1, {20, 146, 445, 440}, controls::Locks(Lock::Left) | Lock::Top | Lock::Right | Lock::Bottom);
 
-    RisokuTotal = new QLineEdit("0", form);
-    RisokuTotal->setObjectName("RisokuTotal");
+    RisokuTotal = field("RisokuTotal", "0", {177, 114, 113, 22});
     RisokuTotal->setReadOnly(true);
-    RisokuTotal->setAlignment(Qt::AlignCenter);
-    form->place(RisokuTotal, {177, 114, 113, 22});
 
     SelectAllButton = bevel("SelectAllButton", BevelButton::Style::Toggle, strings::kSelectAll, {297, 114, 106, 22});
     RekiKind = bevel("RekiKind", BevelButton::Style::Menu, strings::kRekiR, {89, 53, 62, 22});
@@ -496,7 +496,7 @@ void MainWindow::ListBox1_Change() {
     BevelDispAll->setEnabled(totalRows >= 0);
     table::SelectionSum sum;
     for (const int row : ListBox1->SelectedRows()) sum.add(ListBox1->Cell(row, engine::kInterest));
-    RisokuTotal->setText(qs(sum.totalText()));
+    RisokuTotal->setText(sum.totalText());
     SelNum->setText(qs(sum.countText()));
     optSelectBtnState();
 }
@@ -581,10 +581,11 @@ void MainWindow::HelpBtn_Action() {
         return;
     }
     help->parentWin = this;
-    const QRect main = geometry();
+    // Frames with frames: the help window's frame is as much wider than its content as ours.
+    const QRect main = frameGeometry();
+    const int helpWidth = help->width() + main.width() - width();
     const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
-    const int left = helpWindowLeft(main.left(), main.width(), help->width(), screenWidth);
-    help->move(left, main.top());
+    help->move(helpWindowLeft(main.left(), main.width(), helpWidth, screenWidth), main.top());
     app->isExistHelp = true;
     help->show();
 }
@@ -597,30 +598,39 @@ bool MainWindow::_AppleAbout_Action() {
 // ---------------------------------------------------------------------------------------------
 // Edit menu
 
+QWidget* MainWindow::focusedControl() const {
+    // While the menu bar is navigated by keyboard it holds the focus; the commands are for the
+    // control that had it before.
+    QWidget* focused = focusWidget();
+    if (qobject_cast<QMenuBar*>(focused) && m_lastFocusedControl) return m_lastFocusedControl;
+    return focused;
+}
+
 bool MainWindow::canDo(EditCommand command) const {
-    auto* field = qobject_cast<QLineEdit*>(focusWidget());
-    if (!field) {
-        if (command == EditCommand::SelectAll) return true;
-        return command == EditCommand::Copy && focusWidget() == ListBox1 && ListBox1->SelCount() > 0;
-    }
+    auto* field = qobject_cast<QLineEdit*>(focusedControl());
+    // Copy takes the field's selected text where there is some, else the table's selected rows,
+    // whichever control has the focus.
+    if (command == EditCommand::Copy) return (field && field->hasSelectedText()) || ListBox1->SelCount() > 0;
+    if (!field) return command == EditCommand::SelectAll;
     const bool editable = !field->isReadOnly();
     switch (command) {
     case EditCommand::Undo: return editable && field->isUndoAvailable();
     case EditCommand::Redo: return editable && field->isRedoAvailable();
     case EditCommand::Cut:
     case EditCommand::Clear: return editable && field->hasSelectedText();
-    case EditCommand::Copy: return field->hasSelectedText();
     case EditCommand::Paste: return editable;
+    case EditCommand::Copy:
     case EditCommand::SelectAll: return true;
     }
     return false;
 }
 
 void MainWindow::editCommand(EditCommand command) {
-    auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (!canDo(command)) return;
+    auto* field = qobject_cast<QLineEdit*>(focusedControl());
+    if (command == EditCommand::Copy && !(field && field->hasSelectedText())) return ListBox1->copySelection();
     if (!field) {
         if (command == EditCommand::SelectAll) _EditSelectAll_Action();
-        if (command == EditCommand::Copy && focusWidget() == ListBox1) ListBox1->copySelection();
         return;
     }
     switch (command) {

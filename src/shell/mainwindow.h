@@ -8,6 +8,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 
 #include <cstdint>
 #include <map>
@@ -15,7 +16,6 @@
 #include <string>
 
 class QFrame;
-class QLineEdit;
 
 namespace controls {
 class BevelButton;
@@ -55,7 +55,7 @@ public:
     controls::PopupMenu* KindPopup;
     controls::PushButton* CulcButton;
     controls::ListBox* ListBox1;
-    QLineEdit* RisokuTotal;
+    controls::TextField* RisokuTotal;
     QFrame* Rectangle1;
     QLabel* SelNum;
     QLabel* Kansai;
@@ -146,7 +146,11 @@ private:
     // Every field whose focus handlers only remember the text it had.
     void rememberTextOnFocus(controls::TextField* field);
 
+    // The control the Edit commands act on.
+    QWidget* focusedControl() const;
+
     int m_actionRuns = 0;
+    QPointer<QWidget> m_lastFocusedControl;
 };
 
 } // namespace shell

@@ -1,6 +1,7 @@
 #include "shell/menubar.h"
 
 #include "shell/app.h"
+
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
 
@@ -21,16 +22,9 @@ QAction* addItem(QMenu* menu, const char* name, const strings::Constant& caption
 void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     QMenu* fileMenu = bar->addMenu(strings::text(strings::kFileMenu));
     fileMenu->setObjectName("FileMenu");
-    QAction* fileNew = addItem(fileMenu, "FileNew", strings::kFileNew, QKeySequence::New);
-    QObject::connect(fileNew, &QAction::triggered, App::instance(), [] { App::instance()->_FileNew_Action(); });
-    QAction* fileQuit = addItem(fileMenu, "FileQuit", strings::kFileQuit, QKeySequence::Quit);
-    fileQuit->setMenuRole(QAction::QuitRole);
-    // Every window closes (each hides the help window as it goes), then the application ends,
-    // also where no window was open.
-    QObject::connect(fileQuit, &QAction::triggered, App::instance(), [] {
-        QApplication::closeAllWindows();
-        QApplication::quit();
-    });
+    // New and Quit are the application's: one action each, shared by every window's menu.
+    fileMenu->addAction(App::instance()->fileNewAction());
+    fileMenu->addAction(App::instance()->fileQuitAction());
 
     QMenu* editMenu = bar->addMenu(strings::text(strings::kEditMenu));
     editMenu->setObjectName("EditMenu");
@@ -62,14 +56,24 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     about->setMenuRole(QAction::AboutRole);
     about->setEnabled(window != nullptr);
     if (window) QObject::connect(about, &QAction::triggered, window, &MainWindow::_AppleAbout_Action);
+    if (!window) return;
 
-    // The edit commands are offered where the focused control can carry them out.
-    if (window)
-        QObject::connect(editMenu, &QMenu::aboutToShow, window, [window, editMenu] {
-            for (QAction* action : editMenu->actions())
-                if (action->data().canConvert<MainWindow::EditCommand>())
-                    action->setEnabled(window->canDo(action->data().value<MainWindow::EditCommand>()));
-        });
+    // The menu offers the edit commands the focused control can carry out when it opens. Closed,
+    // every command stays enabled, so that its shortcut always reaches the window, which acts
+    // only where it can: a state computed at one moment would be stale at the next key press.
+    const auto editActions = [editMenu] {
+        QList<QAction*> actions;
+        for (QAction* action : editMenu->actions())
+            if (action->data().canConvert<MainWindow::EditCommand>()) actions.append(action);
+        return actions;
+    };
+    QObject::connect(editMenu, &QMenu::aboutToShow, window, [window, editActions] {
+        for (QAction* action : editActions())
+            action->setEnabled(window->canDo(action->data().value<MainWindow::EditCommand>()));
+    });
+    QObject::connect(editMenu, &QMenu::aboutToHide, window, [editActions] {
+        for (QAction* action : editActions()) action->setEnabled(true);
+    });
 }
 
 } // namespace shell

@@ -25,7 +25,10 @@ TEST_F(HelpTest, HelpButtonShowsAndHidesTheUsageBesideTheWindow) {
     EXPECT_TRUE(app()->isExistHelp);
     EXPECT_TRUE(help()->isVisible());
     EXPECT_EQ(help()->parentWin, w);
-    EXPECT_EQ(help()->y(), w->geometry().top());
+    // The offscreen screen has no room on the right: the help window stands flush left, frame to frame.
+    EXPECT_EQ(help()->frameGeometry().topRight(), w->frameGeometry().topLeft() - QPoint(1, 0));
+    EXPECT_EQ(help()->windowTitle(), "Kestrune");
+    EXPECT_FALSE(help()->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     EXPECT_TRUE(help()->Label1->text().startsWith("[Operation description]"));
     EXPECT_EQ(help()->Label1->text().count('\n'), 9);
     EXPECT_TRUE(help()->Label1->textInteractionFlags() & Qt::TextSelectableByMouse);
@@ -65,7 +68,7 @@ TEST_F(HelpTest, TwoPressedButtonsOnlyTheParentIsReleased) {
 
 TEST_F(HelpTest, NewWindowHidesTheHelpAndReleasesItsParent) {
     w->HelpBtn->click();
-    w->menuBar()->findChild<QAction*>("FileNew")->trigger();
+    menuItem(w, "FileNew")->trigger();
     EXPECT_FALSE(help()->isVisible());
     EXPECT_FALSE(w->HelpBtn->Value());
     EXPECT_FALSE(app()->isExistHelp);
@@ -79,7 +82,7 @@ TEST_F(HelpTest, AClosedParentCountsAsNone) {
     other->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(help()->parentWin, nullptr);
-    w->menuBar()->findChild<QAction*>("FileNew")->trigger();
+    menuItem(w, "FileNew")->trigger();
     help()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(app()->isExistHelp);
@@ -106,7 +109,7 @@ public slots:
 };
 
 TEST_F(HelpTest, AboutShowsTheVersionAndHidesOnCloseAndOnTheLink) {
-    w->menuBar()->findChild<QAction*>("AppleAbout")->trigger();
+    menuItem(w, "AppleAbout")->trigger();
     shell::AboutWindow* about = app()->aboutWindow();
     EXPECT_TRUE(about->isVisible());
     EXPECT_TRUE(about->isModal());

@@ -16,13 +16,6 @@ protected:
         setDate(calendar::kWestern, "2020", "3", "15"); // the default loan borrowed on 2020-03-15
     }
 
-    QPoint cellCentre(int row, int column) const {
-        return w->ListBox1->visualRect(w->ListBox1->model()->index(row, column)).center();
-    }
-    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
-        w->ListBox1->scrollTo(w->ListBox1->model()->index(row, 0));
-        QTest::mouseClick(w->ListBox1->viewport(), Qt::LeftButton, modifiers, cellCentre(row, 0));
-    }
     // Types over a cell as a user does: double-click, type, Return.
     void typeIntoCell(int row, int column, const QString& text) {
         QTest::mouseClick(w->ListBox1->viewport(), Qt::LeftButton, {}, cellCentre(row, column));
@@ -289,7 +282,7 @@ TEST_F(TableTest, CopyPutsTheSelectedRowsOnTheClipboardForASpreadsheet) {
     EXPECT_TRUE(copied->html().startsWith("<table><tr><td>001</td>"));
 
     QGuiApplication::clipboard()->clear();
-    w->menuBar()->findChild<QAction*>("EditCopy")->trigger();
+    menuItem(w, "EditCopy")->trigger();
     EXPECT_EQ(QGuiApplication::clipboard()->text().count('\t'), 10);
 }
 

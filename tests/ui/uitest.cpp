@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QMenuBar>
 
 namespace uitest {
 
@@ -9,6 +10,14 @@ void showActive(QWidget* window) {
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+}
+
+QAction* menuItem(QMainWindow* window, const char* name) {
+    for (QAction* top : window->menuBar()->actions())
+        if (top->menu())
+            for (QAction* item : top->menu()->actions())
+                if (item->objectName() == name) return item;
+    return nullptr;
 }
 
 void closeAllWindows() {
@@ -48,6 +57,13 @@ void WindowTest::setDate(int era, const char* year, const char* month, const cha
     w->StartD->setText(day);
     w->CulcButton->Push();
     resetCalculations();
+}
+
+QMenu* WindowTest::openMenu(const char* name) {
+    auto* menu = w->menuBar()->findChild<QMenu*>(name);
+    QTest::mouseClick(w->menuBar(), Qt::LeftButton, {}, w->menuBar()->actionGeometry(menu->menuAction()).center());
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(menu)) << name;
+    return menu;
 }
 
 std::vector<engine::Row> WindowTest::table() const {

@@ -24,6 +24,9 @@ using shell::MainWindow;
 // Shows the window and waits until it is active, so that focus events flow.
 void showActive(QWidget* window);
 
+// The item of the window's menus with that object name (FileNew, EditCopy, ...); null if none.
+QAction* menuItem(QMainWindow* window, const char* name);
+
 // Every top-level window closed and deleted.
 void closeAllWindows();
 
@@ -39,6 +42,16 @@ protected:
     void chooseMenuItem(controls::BevelButton* button, int item);
     // The borrowing date in the given era, calculated, and the count of calculations reset.
     void setDate(int era, const char* year, const char* month, const char* day);
+
+    QPoint cellCentre(int row, int column) const {
+        return w->ListBox1->visualRect(w->ListBox1->model()->index(row, column)).center();
+    }
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) {
+        w->ListBox1->scrollTo(w->ListBox1->model()->index(row, 0));
+        QTest::mouseClick(w->ListBox1->viewport(), Qt::LeftButton, modifiers, cellCentre(row, 0));
+    }
+    // Opens a menu of the menu bar with a click on its title, as a user does.
+    QMenu* openMenu(const char* name);
 
     std::string cell(int row, int column) const { return w->ListBox1->Cell(row, column); }
     int rows() const { return w->ListBox1->ListCount(); }

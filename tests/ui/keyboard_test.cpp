@@ -1,0 +1,95 @@
+#include "uitest.h"
+
+#include "shell/aboutwindow.h"
+#include "shell/helpwindow.h"
+
+#include <QClipboard>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+using namespace uitest;
+
+int copiedRows() { return static_cast<int>(QGuiApplication::clipboard()->text().count('\n')); }
+
+void pressCopy() {
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+}
+
+TEST_F(WindowTest, CopyTakesTheSelectedRowsWhicheverControlHasTheFocus) {
+    QTest::keyClick(openMenu("EditMenu"), Qt::Key_Escape); // shown with nothing to copy
+    clickRow(0);
+    QTest::mouseClick(w->SelectAllButton, Qt::LeftButton);
+    ASSERT_EQ(QApplication::focusWidget(), w->SelectAllButton);
+    pressCopy();
+    EXPECT_EQ(copiedRows(), 144) << "Ctrl+C on the Select All button";
+
+    QMenu* edit = openMenu("EditMenu");
+    EXPECT_TRUE(menuItem(w, "EditCopy")->isEnabled());
+    QGuiApplication::clipboard()->clear();
+    QTest::mouseClick(edit, Qt::LeftButton, {}, edit->actionGeometry(menuItem(w, "EditCopy")).center());
+    EXPECT_EQ(copiedRows(), 144) << "Edit > Copy";
+
+    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
+    pressCopy();
+    EXPECT_EQ(copiedRows(), 144) << "a field with no text selected";
+    w->Kaisu->selectAll();
+    pressCopy();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "144") << "a field's selected text is the field's";
+}
+
+TEST_F(WindowTest, EditOffersTheCommandsOfTheFocusedControlAfterAnotherMenuIsDismissed) {
+    // Escape leaves the menu bar holding the keyboard: Right and Down open Edit from there.
+    const auto openEditFromFile = [this] {
+        QTest::keyClick(openMenu("FileMenu"), Qt::Key_Escape);
+        QTest::keyClick(w->menuBar(), Qt::Key_Right);
+        QTest::keyClick(w->menuBar(), Qt::Key_Down);
+        EXPECT_EQ(QApplication::activePopupWidget(), w->menuBar()->findChild<QMenu*>("EditMenu"));
+    };
+    clickRow(2);
+    openEditFromFile();
+    EXPECT_TRUE(menuItem(w, "EditCopy")->isEnabled());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+
+    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
+    openEditFromFile();
+    EXPECT_TRUE(menuItem(w, "EditPaste")->isEnabled()) << "Paste into the field being edited";
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+}
+
+TEST_F(WindowTest, TheTableIsOneTabStopAndTabNeverChangesTheSelection) {
+    clickRow(3);
+    QTest::keyClick(w->ListBox1, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), w->RisokuTotal);
+    QTest::keyClick(w->RisokuTotal, Qt::Key_Backtab);
+    EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
+    EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{3});
+    EXPECT_EQ(w->SelNum->text(), "1");
+    QTest::keyClick(w->ListBox1, Qt::Key_Down);
+    EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{4}) << "arrows move the selection";
+}
+
+TEST_F(WindowTest, NewAndQuitWorkFromTheHelpAndAboutWindows) {
+    const auto windows = [] { return shell::App::instance()->mainWindows().size(); };
+    w->HelpBtn->click();
+    shell::HelpWindow* help = shell::App::instance()->helpWindow();
+    showActive(help);
+    QTest::keyClick(help, Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(windows(), 2) << "Ctrl+N in the help window";
+
+    w->_AppleAbout_Action();
+    shell::AboutWindow* about = shell::App::instance()->aboutWindow();
+    showActive(about);
+    QTest::keyClick(about, Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(windows(), 3) << "Ctrl+N in the About window";
+    EXPECT_FALSE(about->isVisible());
+
+    QSignalSpy quit(shell::App::instance()->fileQuitAction(), &QAction::triggered);
+    showActive(help);
+    QTest::keyClick(help, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quit.count(), 1) << "Ctrl+Q in the help window";
+}
+
+} // namespace
