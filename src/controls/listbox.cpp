@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStyle>
 
 namespace controls {
 namespace {
@@ -46,9 +47,24 @@ ListBox::ListBox(QWidget* parent) : QTableView(parent), m_model(new ScheduleMode
 
 void ListBox::setHeadings(const QStringList& headings) { m_model->setHeadings(headings); }
 
-void ListBox::setColumnWidths(const std::vector<std::optional<int>>& percentages) {
+void ListBox::setColumnWidths(const std::vector<std::optional<int>>& percentages, const QStringList& samples) {
     m_columnPercentages = percentages;
+    m_samples = samples;
     applyColumnWidths();
+}
+
+int ListBox::minimumColumnWidth(int column) const {
+    // A cell's text stands inside a margin of the focus frame's and one pixel on each side.
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
+    const int sample = column < m_samples.size() ? fontMetrics().horizontalAdvance(m_samples.at(column)) : 0;
+    return std::max(sample + margin, horizontalHeader()->sectionSizeHint(column));
+}
+
+int ListBox::minimumTableWidth() const {
+    int width = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    for (int column = 0; column < static_cast<int>(m_columnPercentages.size()); ++column)
+        width += minimumColumnWidth(column);
+    return width;
 }
 
 const std::string& ListBox::Cell(int row, int column) const {
@@ -152,20 +168,44 @@ void ListBox::resizeEvent(QResizeEvent* event) {
 }
 
 void ListBox::applyColumnWidths() {
-    if (m_columnPercentages.empty()) return;
+    const int columns = static_cast<int>(m_columnPercentages.size());
+    if (columns == 0) return;
     const int total = viewport()->width();
+    // The widths the percentages ask for: the columns without one share what is left equally.
+    std::vector<double> wanted(static_cast<std::size_t>(columns));
     int fixed = 0;
     int shared = 0;
-    for (const auto& percentage : m_columnPercentages) {
-        if (percentage)
-            fixed += total * *percentage / 100;
-        else
-            ++shared;
+    for (const auto& percentage : m_columnPercentages) percentage ? fixed += total * *percentage / 100 : ++shared;
+    for (int c = 0; c < columns; ++c) {
+        const auto& percentage = m_columnPercentages[static_cast<std::size_t>(c)];
+        wanted[static_cast<std::size_t>(c)] =
+            percentage ? total * *percentage / 100 : (shared > 0 ? (total - fixed) / shared : 0);
     }
-    const int share = shared > 0 ? (total - fixed) / shared : 0;
-    for (int column = 0; column < static_cast<int>(m_columnPercentages.size()); ++column) {
-        const auto& percentage = m_columnPercentages[static_cast<std::size_t>(column)];
-        setColumnWidth(column, percentage ? total * *percentage / 100 : share);
+    // A column that would be narrower than its minimum gets the minimum; the others share the
+    // rest in the proportions asked for.
+    std::vector<bool> atMinimum(static_cast<std::size_t>(columns), false);
+    for (bool settled = false; !settled;) {
+        settled = true;
+        double rest = total;
+        double wantedRest = 0;
+        for (int c = 0; c < columns; ++c)
+            atMinimum[static_cast<std::size_t>(c)] ? rest -= minimumColumnWidth(c)
+                                                   : wantedRest += wanted[static_cast<std::size_t>(c)];
+        for (int c = 0; c < columns; ++c) {
+            const auto i = static_cast<std::size_t>(c);
+            if (atMinimum[i]) continue;
+            const double width = wantedRest > 0 ? wanted[i] * rest / wantedRest : 0;
+            if (width < minimumColumnWidth(c)) {
+                atMinimum[i] = true;
+                settled = false;
+            }
+        }
+        if (!settled) continue;
+        for (int c = 0; c < columns; ++c) {
+            const auto i = static_cast<std::size_t>(c);
+            setColumnWidth(c, atMinimum[i] ? minimumColumnWidth(c)
+                                           : static_cast<int>(wantedRest > 0 ? wanted[i] * rest / wantedRest : 0));
+        }
     }
 }
 

@@ -24,7 +24,10 @@ public:
 
     void setHeadings(const QStringList& headings);
     // Column widths as percentages of the table's width; columns without one share the rest.
-    void setColumnWidths(const std::vector<std::optional<int>>& percentages);
+    // No column is made narrower than its heading or its sample text (the widest it shows).
+    void setColumnWidths(const std::vector<std::optional<int>>& percentages, const QStringList& samples);
+    // The width at which every column shows its heading and sample whole.
+    int minimumTableWidth() const;
 
     const std::string& Cell(int row, int column) const;
     const engine::Row& RowCells(int row) const;
@@ -61,7 +64,10 @@ private:
     void selectionWasChanged();
 
     ScheduleModel* m_model;
+    int minimumColumnWidth(int column) const;
+
     std::vector<std::optional<int>> m_columnPercentages;
+    QStringList m_samples;
     mutable std::optional<std::vector<int>> m_selectedRows; // until the selection changes
 };
 

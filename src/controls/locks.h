@@ -2,6 +2,10 @@
 // Controls placed by position and size, kept in place on resizing by their locks: a control
 // locked right keeps its distance to the right edge (and stretches if also locked left), one
 // locked bottom keeps its distance to the bottom edge (and stretches if also locked top).
+//
+// The positions are a design for one font. fit() widens each control to the width its texts
+// need in the font in use, moves the controls after it on the same line along by as much, and
+// widens the design (and so the window's smallest width) where a line no longer fits.
 
 #include <QFlags>
 #include <QRect>
@@ -22,6 +26,12 @@ public:
     LockedLayoutWidget(QSize designSize, QWidget* parent = nullptr);
 
     void place(QWidget* control, QRect designRect, Locks locks = Locks(Lock::Left) | Lock::Top);
+    // The width the control needs for its texts; it is never made narrower than its design.
+    void setNeededWidth(QWidget* control, int width);
+    // Lays the design out anew from the needed widths.
+    void fit();
+    // The design's size after fitting: the surface's smallest useful size.
+    QSize designSize() const { return m_fittedSize; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -31,11 +41,18 @@ private:
         QWidget* control;
         QRect designRect;
         Locks locks;
+        int neededWidth = 0;
+        QRect fittedRect;
     };
     QRect rectFor(const Placed& placed) const;
 
     QSize m_designSize;
+    QSize m_fittedSize;
     std::vector<Placed> m_placed;
 };
+
+// The widths that show a text whole in each kind of control, in the control's own font and style.
+int widthForText(const QWidget* lineEdit, const QString& text);
+int widthForCaptions(QWidget* buttonOrLabel, const QStringList& captions);
 
 } // namespace controls

@@ -17,6 +17,12 @@ TextField::TextField(QWidget* parent) : QLineEdit(parent) {}
 
 void TextField::setText(std::string_view text) {
     QLineEdit::setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    showStart();
+}
+
+void TextField::showStart() {
+    // A text wider than the field shows its head, not its tail, while the field is not edited.
+    if (!hasFocus()) setCursorPosition(0);
 }
 
 bool TextField::event(QEvent* event) {
@@ -39,6 +45,7 @@ void TextField::focusInEvent(QFocusEvent* event) {
 void TextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (!m_hasFocus || isPassing(event->reason())) return;
+    setCursorPosition(0);
     m_hasFocus = false;
     ++s_fieldsBeingLeft;
     emit LostFocus();

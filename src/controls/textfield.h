@@ -32,6 +32,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void showStart();
+
     bool m_hasFocus = false; // GotFocus raised and LostFocus not yet
     static inline int s_fieldsBeingLeft = 0;
 };

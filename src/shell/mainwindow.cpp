@@ -22,6 +22,7 @@
 #include <QDate>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 
@@ -51,10 +52,8 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     buildMenuBar(menuBar(), this);
 
     auto* form = new controls::LockedLayoutWidget(kDesignSize, this);
-    form->setMinimumSize(kMinimumSize);
     setCentralWidget(form);
     createControls(form);
-    resize(kDesignSize.width(), kDesignSize.height() + menuBar()->sizeHint().height());
     setTabOrder();
     App::instance()->addMainWindow(this);
 
@@ -64,6 +63,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     DelayPop_Open();
     GankinField_Open();
     Shokai_Open();
+    fitToFont(form);
     bindHandlers();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now && now->window() == this && !qobject_cast<QMenuBar*>(now)) m_lastFocusedControl = now;
@@ -170,6 +170,45 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
     HelpBtn = bevel("HelpBtn", BevelButton::Style::Toggle, strings::kHelpButton, {408, 21, 55, 22},
                     controls::Locks(Lock::Top) | Lock::Right);
     DelayPop = bevel("DelayPop", BevelButton::Style::Menu, strings::kNext, {370, 53, 50, 22});
+}
+
+void MainWindow::fitToFont(controls::LockedLayoutWidget* form) {
+    using controls::widthForCaptions;
+    // The widest text each field is to show whole.
+    const std::pair<controls::TextField*, const char*> fields[] = {{GankinField, "999,999,999,999"},
+                                                                   {Nenriritsu, "12.345"},
+                                                                   {Kaisu, "100000"},
+                                                                   {Shokai, "100000"},
+                                                                   {StartY, "-9999"},
+                                                                   {StartM, "00"},
+                                                                   {StartD, "00"},
+                                                                   {StartDX, "00"},
+                                                                   {RisokuTotal, "999,999,999,999"}};
+    for (const auto& [field, widest] : fields) form->setNeededWidth(field, controls::widthForText(field, widest));
+    for (const auto& [index, label] : LabelText) form->setNeededWidth(label, widthForCaptions(label, {label->text()}));
+    form->setNeededWidth(Rectangle1, widthForCaptions(SelNum, {"100000"}) + 2 * Rectangle1->frameWidth());
+    // The pay-off date of the longest loan from the last year the form takes, in each era.
+    QStringList payoffs;
+    for (int era = calendar::kWestern; era < calendar::kEraCount; ++era)
+        payoffs << qs(calendar::payoffText(calendar::Date(calendar::kYearLimit + engine::kMaxPayments / 12 + 1, 12, 28),
+                                           era, payoffWords()));
+    form->setNeededWidth(Kansai, widthForCaptions(Kansai, payoffs));
+    for (BevelButton* menuButton : {RekiKind, DelayPop}) {
+        QStringList items;
+        for (const QAction* item : menuButton->menu()->actions()) items << item->text();
+        form->setNeededWidth(menuButton, widthForCaptions(menuButton, items));
+    }
+    form->setNeededWidth(SelectAllButton,
+                         widthForCaptions(SelectAllButton, {text(strings::kSelectAll), text(strings::kDeselectAll)}));
+    for (QAbstractButton* button :
+         std::initializer_list<QAbstractButton*>{CulcButton, HelpBtn, BevelNewNext, BevelDispAll, BevelDelBelow})
+        form->setNeededWidth(button, widthForCaptions(button, {button->text()}));
+    form->setNeededWidth(KindPopup, KindPopup->sizeHint().width());
+    form->setNeededWidth(ListBox1, ListBox1->minimumTableWidth());
+    form->fit();
+
+    form->setMinimumSize(form->designSize().width(), kMinimumSize.height());
+    resize(form->designSize().width(), kDesignSize.height() + menuBar()->sizeHint().height());
 }
 
 void MainWindow::setTabOrder() {
@@ -482,7 +521,11 @@ void MainWindow::Shokai_LostFocus() {
 
 void MainWindow::ListBox1_Open() {
     ListBox1->setHeadings(strings::fields(strings::kHeader, '\t'));
-    ListBox1->setColumnWidths({10, 17, std::nullopt, std::nullopt, std::nullopt, 23});
+    // The widest texts: a six-digit payment number, a date, and the amounts of a loan of up to
+    // 100,000,000 (the balance of a larger one scrolls with the table's width).
+    const QString amount = "888,888,888";
+    ListBox1->setColumnWidths({10, 17, std::nullopt, std::nullopt, std::nullopt, 23},
+                              {"100000", "88.88.88", amount, amount, amount, amount});
 }
 
 bool MainWindow::ListBox1_MouseDown(int /*x*/, int y) { return y < 17; }

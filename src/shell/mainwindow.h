@@ -137,6 +137,8 @@ private:
     void createControls(controls::LockedLayoutWidget* form);
     void bindHandlers();
     void setTabOrder();
+    // Sizes and places the controls so that the widest text each shows fits in the font in use.
+    void fitToFont(controls::LockedLayoutWidget* form);
     engine::LoanForm loanForm() const;
     calendar::DateFieldTexts dateFieldTexts() const;
     // The words of the pay-off statement in the user's language.

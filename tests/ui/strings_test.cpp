@@ -1,3 +1,5 @@
+#include "uitest.h"
+
 #include "strings/lookup.h"
 
 #include <QCoreApplication>
@@ -6,23 +8,7 @@
 
 namespace {
 
-// The Japanese translation, installed for the length of a test.
-class Japanese {
-public:
-    Japanese() {
-        m_loaded = m_translator.load(":/i18n/kestrune_ja.qm");
-        QCoreApplication::installTranslator(&m_translator);
-    }
-    ~Japanese() { QCoreApplication::removeTranslator(&m_translator); }
-    bool loaded() const { return m_loaded; }
-    QString raw(const strings::Constant& c) const {
-        return m_translator.translate(std::string(c.context).c_str(), std::string(c.name).c_str());
-    }
-
-private:
-    QTranslator m_translator;
-    bool m_loaded = false;
-};
+using uitest::Japanese;
 
 void expectStructure(const char* language) {
     EXPECT_EQ(strings::fields(strings::kHeader, '\t').size(), 6) << language;

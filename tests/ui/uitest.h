@@ -9,9 +9,11 @@
 #include "controls/textfield.h"
 #include "shell/app.h"
 #include "shell/mainwindow.h"
+#include "strings/constants.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 // How gtest prints a QString when a case fails.
@@ -20,6 +22,24 @@ inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.
 namespace uitest {
 
 using shell::MainWindow;
+
+// The Japanese translation, installed for the length of a scope.
+class Japanese {
+public:
+    Japanese() {
+        m_loaded = m_translator.load(":/i18n/kestrune_ja.qm");
+        QCoreApplication::installTranslator(&m_translator);
+    }
+    ~Japanese() { QCoreApplication::removeTranslator(&m_translator); }
+    bool loaded() const { return m_loaded; }
+    QString raw(const strings::Constant& c) const {
+        return m_translator.translate(std::string(c.context).c_str(), std::string(c.name).c_str());
+    }
+
+private:
+    QTranslator m_translator;
+    bool m_loaded = false;
+};
 
 // Shows the window and waits until it is active, so that focus events flow.
 void showActive(QWidget* window);

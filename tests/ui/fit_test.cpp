@@ -1,0 +1,99 @@
+#include "uitest.h"
+
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <memory>
+
+namespace {
+
+using namespace uitest;
+
+// Each check compares the text's advance in the control's font with the room the control gives it.
+void expectWhole(const controls::TextField* field) {
+    QStyleOptionFrame option;
+    option.initFrom(field);
+    option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
+    const QMargins margins = field->textMargins();
+    const int room = field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() - 2 * 2 -
+                     1 - margins.left() - margins.right();
+    EXPECT_LE(field->fontMetrics().horizontalAdvance(field->text()), room)
+        << field->objectName().toStdString() << " \"" << field->text().toStdString() << "\"";
+}
+
+void expectWhole(const QLabel* label) {
+    EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->contentsRect().width())
+        << label->objectName().toStdString() << " \"" << label->text().toStdString() << "\"";
+}
+
+void expectWholeCells(const MainWindow* w) {
+    const controls::ListBox* table = w->ListBox1;
+    const int margin = 2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
+    for (int row = 0; row < table->ListCount(); ++row)
+        for (int column = 0; column < 6; ++column) {
+            const QString text = QString::fromStdString(table->Cell(row, column));
+            EXPECT_LE(table->fontMetrics().horizontalAdvance(text),
+                      table->visualRect(table->model()->index(row, column)).width() - margin)
+                << "row " << row << " column " << column << " \"" << text.toStdString() << "\"";
+        }
+}
+
+void checkEveryTextShowsWhole(const char* language) {
+    SCOPED_TRACE(language);
+    auto* w = new MainWindow;
+    showActive(w);
+    const std::pair<controls::TextField*, const char*> widest[] = {
+        {w->GankinField, "999,999,999,999"}, {w->Nenriritsu, "12.345"}, {w->Kaisu, "100000"},
+        {w->Shokai, "100000"},               {w->StartY, "-9999"},      {w->RisokuTotal, "999,999,999,999"}};
+    for (const auto& [field, text] : widest) {
+        field->setText(text);
+        expectWhole(field);
+    }
+    for (const auto& [index, label] : w->LabelText) expectWhole(label);
+
+    // Every cell of a loan of 100,000,000 in 1, 10 and 144 payments, both methods.
+    w->RekiKind->setMenuValue(calendar::kWestern);
+    w->StartY->setText("2020");
+    w->GankinField->setText("100000000");
+    w->Nenriritsu->setText("12.345");
+    w->Shokai->setText("1");
+    for (const char* times : {"1", "10", "144"})
+        for (const int method : {0, 1}) {
+            w->Kaisu->setText(times);
+            w->KindPopup->setListIndex(method);
+            w->CulcButton->Push();
+            expectWholeCells(w);
+        }
+
+    // The pay-off label of a 100,000-payment loan from the last year the form takes, and its
+    // count of selected rows.
+    for (const int era : {calendar::kWestern, calendar::kReiwa}) {
+        w->RekiKind->setMenuValue(era);
+        w->StartY->setText("9999");
+        w->Kaisu->setText("100000");
+        w->CulcButton->Push();
+        expectWhole(w->Kansai);
+    }
+    w->SelectAllButton->click();
+    EXPECT_EQ(w->SelNum->text(), "100000");
+    expectWhole(w->SelNum);
+    EXPECT_LE(w->SelNum->geometry().right(), w->Rectangle1->contentsRect().right());
+
+    // Leaving a field that can't show all it holds shows the head of the text.
+    w->GankinField->setText("1234567890123456789012345678901234567890");
+    QTest::mouseClick(w->GankinField, Qt::LeftButton);
+    QTest::keyClick(w->GankinField, Qt::Key_End);
+    QTest::keyClick(w->GankinField, Qt::Key_Tab);
+    EXPECT_EQ(w->GankinField->cursorPosition(), 0);
+    closeAllWindows();
+}
+
+TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInEnglish) { checkEveryTextShowsWhole("English"); }
+
+TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInJapanese) {
+    Japanese japanese;
+    ASSERT_TRUE(japanese.loaded());
+    checkEveryTextShowsWhole("Japanese");
+}
+
+} // namespace
