@@ -5,10 +5,12 @@
 namespace strings {
 
 QString text(const Constant& constant) {
-    // The key is the context and the name; translations carry the name as their source text.
+    // The key is the context and the name; the translations carry the English default beside the
+    // name as lupdate found it.
     const std::string context(constant.context);
     const std::string name(constant.name);
-    const QString translated = QCoreApplication::translate(context.c_str(), name.c_str());
+    const std::string defaultText(constant.defaultText);
+    const QString translated = QCoreApplication::translate(context.c_str(), name.c_str(), defaultText.c_str());
     if (translated != QLatin1String(name.c_str())) return translated;
     return QString::fromUtf8(constant.defaultText.data(), static_cast<qsizetype>(constant.defaultText.size()));
 }

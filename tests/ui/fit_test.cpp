@@ -15,8 +15,8 @@ void expectWhole(const controls::TextField* field) {
     option.initFrom(field);
     option.lineWidth = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, field);
     const QMargins margins = field->textMargins();
-    const int room = field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() - 2 * 2 -
-                     1 - margins.left() - margins.right();
+    const int room = field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() - 2 * 2 - 1 -
+                     margins.left() - margins.right();
     EXPECT_LE(field->fontMetrics().horizontalAdvance(field->text()), room)
         << field->objectName().toStdString() << " \"" << field->text().toStdString() << "\"";
 }
@@ -42,9 +42,12 @@ void checkEveryTextShowsWhole(const char* language) {
     SCOPED_TRACE(language);
     auto* w = new MainWindow;
     showActive(w);
-    const std::pair<controls::TextField*, const char*> widest[] = {
-        {w->GankinField, "999,999,999,999"}, {w->Nenriritsu, "12.345"}, {w->Kaisu, "100000"},
-        {w->Shokai, "100000"},               {w->StartY, "-9999"},      {w->RisokuTotal, "999,999,999,999"}};
+    const std::pair<controls::TextField*, const char*> widest[] = {{w->GankinField, "999,999,999,999"},
+                                                                   {w->Nenriritsu, "12.345"},
+                                                                   {w->Kaisu, "100000"},
+                                                                   {w->Shokai, "100000"},
+                                                                   {w->StartY, "-9999"},
+                                                                   {w->RisokuTotal, "999,999,999,999"}};
     for (const auto& [field, text] : widest) {
         field->setText(text);
         expectWhole(field);
