@@ -1,6 +1,6 @@
 // Starts the program as a user would and quits once the first window has painted its table.
-#include "controls/listbox.h"
 #include "shell/app.h"
+#include "shell/listbox.h"
 #include "shell/mainwindow.h"
 
 #include <QTimer>

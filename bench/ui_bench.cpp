@@ -1,10 +1,10 @@
 // The window: start-up to the first full table, recalculation to the repainted table, memory,
 // and selecting every row of a long table.
 #include "controls/bevelbutton.h"
-#include "controls/listbox.h"
 #include "controls/pushbutton.h"
 #include "controls/textfield.h"
 #include "shell/app.h"
+#include "shell/listbox.h"
 #include "shell/mainwindow.h"
 
 #include <benchmark/benchmark.h>
@@ -48,7 +48,7 @@ BENCHMARK(StartupToFirstTable)->Unit(benchmark::kMillisecond)->UseRealTime();
 void RecalculateAndRepaint(benchmark::State& state) {
     auto* window = new shell::MainWindow;
     window->show();
-    window->Kaisu->setText(std::to_string(state.range(0)));
+    window->Kaisu->setText(QString::number(state.range(0)));
     window->Nenriritsu->setText("0.5");
     for (auto _ : state) {
         window->CulcButton->Push();
@@ -63,7 +63,7 @@ BENCHMARK(RecalculateAndRepaint)->Arg(144)->Arg(100'000)->Unit(benchmark::kMilli
 void SelectAllRows(benchmark::State& state) {
     auto* window = new shell::MainWindow;
     window->show();
-    window->Kaisu->setText(std::to_string(state.range(0)));
+    window->Kaisu->setText(QString::number(state.range(0)));
     window->Nenriritsu->setText("0.5");
     window->CulcButton->Push();
     for (auto _ : state) {

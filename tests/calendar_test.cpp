@@ -1,104 +1,168 @@
-#include "calendar/calendar.h"
+// Dates, eras, the loan's dates and the corrections of the date line.
+#include "calendar/datefields.h"
+#include "calendar/era.h"
+#include "calendar/loandates.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <limits>
 
 using namespace calendar;
 
+namespace calendar {
+std::ostream& operator<<(std::ostream& os, const EraYear& e) { return os << "era " << e.era << " year " << e.year; }
+} // namespace calendar
+
 namespace {
 
-struct Ymd {
-    std::int64_t y, m, d;
-};
-Ymd ymd(const Date& date) { return {date.Year(), date.Month(), date.Day()}; }
-bool operator==(const Ymd& a, const Ymd& b) { return a.y == b.y && a.m == b.m && a.d == b.d; }
-std::ostream& operator<<(std::ostream& os, const Ymd& v) { return os << v.y << '-' << v.m << '-' << v.d; }
-
-TEST(IsUruu, FollowsTheGregorianRule) {
-    EXPECT_FALSE(isUruu(1900));
-    EXPECT_TRUE(isUruu(2000));
-    EXPECT_FALSE(isUruu(2023));
-    EXPECT_TRUE(isUruu(2024));
-    EXPECT_TRUE(isUruu(0));
-    EXPECT_TRUE(isUruu(-4));
-    EXPECT_FALSE(isUruu(-100));
+std::string iso(const Date& d) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%lld-%02lld-%02lld", static_cast<long long>(d.Year()),
+                  static_cast<long long>(d.Month()), static_cast<long long>(d.Day()));
+    return text;
 }
 
-TEST(GetSeireki, AddsTheEraBase) {
-    EXPECT_EQ(getSeireki(1, 64), 1989);
-    EXPECT_EQ(getSeireki(2, 1), 1989);
-    EXPECT_EQ(getSeireki(2, 31), 2019);
-    EXPECT_EQ(getSeireki(3, 1), 2019);
-    EXPECT_EQ(getSeireki(0, 2023), 2023);
-    EXPECT_EQ(getSeireki(4, 5), 0);
-    EXPECT_EQ(getSeireki(-1, 5), 0);
+TEST(Calendar, LeapYearsAndEraYears) {
+    for (const auto& [year, leap] : {std::pair{1900, false}, {2000, true}, {2023, false}, {2024, true}, {-100, false}})
+        EXPECT_EQ(isLeapYear(year), leap) << year;
+    EXPECT_EQ(westernYear(kShowa, 64), 1989);
+    EXPECT_EQ(westernYear(kHeisei, 31), 2019);
+    EXPECT_EQ(westernYear(kReiwa, 6), 2024);
+    EXPECT_EQ(westernYear(4, 5), 0) << "no such era";
+    EXPECT_EQ(yearInEra(kShowa, 2026), 101);
+    EXPECT_EQ(yearInEra(kReiwa, 2026), 8);
 }
 
-struct MonthDayCase {
-    int era;
-    std::int64_t year, month, day, expected;
-};
-
-TEST(OptMonthDay, LimitsTheDayToTheMonth) {
-    const MonthDayCase cases[] = {
-        {0, 2023, 2, 31, 28},  {0, 2024, 2, 30, 29},
-        {0, 2023, 4, 31, 30},  {0, 2023, 4, 30, 30},
-        {0, 2023, 3, 31, 31},  {3, 6, 2, 30, 29},
-        {3, 5, 2, 29, 28},     {0, 2023, 1, 0, 1},
-        {0, 2023, 1, -5, 1},   {0, 2023, 1, 99, 31},
-        {0, 2023, 14, 31, 31}, {0, 2023, 11, 31, 30},
-        {0, 2023, 6, 45, 30},  {0, 2023, 9, 31, 30},
-        {0, 2023, 0, 31, 31},  {0, 2023, 1, std::numeric_limits<std::int64_t>::max(), 31},
-    };
-    for (const auto& c : cases) {
-        std::int64_t day = c.day;
-        optMonthDay(c.era, c.year, c.month, day);
-        EXPECT_EQ(day, c.expected) << "era " << c.era << " " << c.year << "-" << c.month << "-" << c.day;
-    }
-}
-
-struct DateFromCase {
+struct DateCase {
     int era;
     std::int64_t year, month, day;
-    Ymd expected;
+    const char* date;
 };
 
-TEST(SetDateFrom, BuildsAWesternDateWithTheDayInItsMonth) {
-    const DateFromCase cases[] = {
-        {1, 64, 1, 7, {1989, 1, 7}},
-        {2, 1, 1, 8, {1989, 1, 8}},
-        {2, 31, 4, 30, {2019, 4, 30}},
-        {3, 1, 5, 1, {2019, 5, 1}},
-        {0, 2023, 2, 31, {2023, 2, 28}},
-        {3, 6, 2, 31, {2024, 2, 29}},
-        {0, 2023, 4, 15, {2023, 4, 15}},
-        // A month outside 1 to 12 carries into the year, the day limited to the month it lands in.
-        {0, 2023, 13, 5, {2024, 1, 5}},
-        {0, 2023, 0, 5, {2022, 12, 5}},
-        {0, 2023, 14, 31, {2024, 2, 29}},
-        {0, 2023, -12, 1, {2021, 12, 1}},
-        // Years beyond what a date holds stay at the limit.
-        {0, std::numeric_limits<std::int64_t>::max(), 1, 1, {Date::kMaxYear, 1, 1}},
-        {0, std::numeric_limits<std::int64_t>::min(), 1, 1, {Date::kMinYear, 1, 1}},
-        {0, 40000, 1, 1, {Date::kMaxYear, 1, 1}},
+TEST(Calendar, DateFromAnEraYearLimitsTheDayAndCarriesTheMonth) {
+    constexpr auto kHuge = std::numeric_limits<std::int64_t>::max();
+    const DateCase cases[] = {
+        {kShowa, 64, 1, 7, "1989-01-07"},       {kReiwa, 6, 2, 31, "2024-02-29"},
+        {kReiwa, 5, 2, 29, "2023-02-28"},       {kWestern, 2023, 4, 31, "2023-04-30"},
+        {kWestern, 2023, 1, -5, "2023-01-01"},  {kWestern, 2023, 13, 5, "2024-01-05"},
+        {kWestern, 2023, 0, 5, "2022-12-05"},   {kWestern, 2023, 14, 31, "2024-02-29"},
+        {kWestern, kHuge, 1, 1, "32767-01-01"}, {kWestern, 2023, -kHuge, 1, "-32767-08-01"},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(ymd(setDateFrom(c.era, c.year, c.month, c.day)), c.expected)
-            << "setDateFrom(" << c.era << ", " << c.year << ", " << c.month << ", " << c.day << ")";
+        EXPECT_EQ(iso(dateFromEraYear(c.era, c.year, c.month, c.day)), c.date)
+            << "era " << c.era << " " << c.year << "-" << c.month << "-" << c.day;
+    EXPECT_EQ(daysBetween(Date(2024, 1, 31), Date(2024, 2, 29)), 29);
+    EXPECT_EQ(daysBetween(Date(2020, 4, 8), Date(2020, 3, 15)), -24);
 }
 
-TEST(SetDateFrom, AnExtremeMonthCarriesToTheYearLimit) {
-    EXPECT_EQ(setDateFrom(0, 2023, std::numeric_limits<std::int64_t>::min(), 1).Year(), Date::kMinYear);
-    EXPECT_EQ(setDateFrom(0, 2023, std::numeric_limits<std::int64_t>::max(), 31).Year(), Date::kMaxYear);
+struct DisplayCase {
+    int era;
+    std::int64_t year, month, day;
+    EraYear shown;
+};
+
+// The year a date shows under an era: the era in force moves on at its end, never back.
+TEST(Era, DisplayedYearMovesOnAtTheEndOfAnEra) {
+    const DisplayCase cases[] = {
+        {kShowa, 1989, 1, 7, {kShowa, 64}},  {kShowa, 1989, 1, 8, {kHeisei, 1}},
+        {kHeisei, 1989, 1, 7, {kHeisei, 1}}, {kHeisei, 2019, 4, 8, {kHeisei, 31}},
+        {kHeisei, 2019, 5, 8, {kReiwa, 1}},  {kShowa, 2019, 5, 8, {kReiwa, 1}},
+        {kReiwa, 2019, 4, 8, {kReiwa, 1}},   {kWestern, 2019, 5, 8, {kWestern, 2019}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(displayedEraYear(c.era, c.year, c.month, c.day), c.shown)
+            << c.year << "-" << c.month << "-" << c.day << " under era " << c.era;
 }
 
-TEST(GetDays, CountsWholeCalendarDays) {
-    EXPECT_EQ(getDays(Date(2023, 1, 31), Date(2023, 2, 28)), 28);
-    EXPECT_EQ(getDays(Date(2024, 1, 31), Date(2024, 2, 29)), 29);
-    EXPECT_EQ(getDays(Date(2024, 1, 31), Date(2024, 1, 31)), 0);
-    EXPECT_EQ(getDays(Date(2020, 3, 15), Date(2020, 4, 8)), 24);
-    EXPECT_EQ(getDays(Date(2020, 4, 8), Date(2020, 3, 15)), -24);
+struct CorrectionCase {
+    int era;
+    std::int64_t year, month;
+    EraYear result;
+    bool changed;
+};
+
+TEST(Era, AYearThatDoesNotFitItsEraMoves) {
+    const CorrectionCase cases[] = {
+        {kShowa, 64, 1, {kShowa, 64}, false},   {kShowa, 64, 2, {kHeisei, 1}, true},
+        {kHeisei, 31, 4, {kHeisei, 31}, false}, {kHeisei, 31, 5, {kReiwa, 1}, true},
+        {kShowa, 0, 6, {kWestern, 1925}, true}, {kReiwa, 0, 6, {kHeisei, 30}, true},
+        {kHeisei, 0, 6, {kShowa, 63}, true},    {kShowa, 100, 6, {kReiwa, 7}, true},
+        {kReiwa, -40, 6, {kHeisei, -10}, true}, {kReiwa, 99999, 6, {kReiwa, kYearLimit}, false},
+    };
+    for (const auto& c : cases) {
+        const auto corrected = correctEra(c.era, c.year, c.month, 7);
+        EXPECT_EQ(corrected.result, c.result) << "era " << c.era << " year " << c.year << " month " << c.month;
+        EXPECT_EQ(corrected.changed, c.changed) << "era " << c.era << " year " << c.year;
+    }
+    EXPECT_EQ(convertCalendar(kWestern, 1989, 1, 7), (EraYear{kShowa, 64}));
+    EXPECT_EQ(convertCalendar(kWestern, 2019, 5, 1), (EraYear{kReiwa, 1}));
+    EXPECT_EQ(convertCalendar(kWestern, 1925, 6, 1), (EraYear{kWestern, 1925}));
+    EXPECT_EQ(convertCalendar(kReiwa, 5, 6, 1), (EraYear{kWestern, 2023}));
+}
+
+struct FieldCase {
+    int era;
+    DateFieldTexts texts;
+    const char* month; // as the month field is left: "" where it stays
+    const char* day;   // as the day field is left
+};
+
+TEST(DateFields, MonthAndDayFollowTheMonthsLength) {
+    const FieldCase cases[] = {
+        {kReiwa, {"6", "2", "29"}, "", ""},   // 2024 is a leap year, as Reiwa 6
+        {kReiwa, {"5", "2", "29"}, "", "28"}, // 2023 is not
+        {kWestern, {"2024", "2", "31"}, "", "29"}, {kWestern, {"2023", "13", "31"}, "12", ""},
+        {kWestern, {"2023", "x", "31"}, "1", ""},  {kWestern, {"2023", "4", "31"}, "", "30"},
+    };
+    for (const auto& c : cases) {
+        const MonthField month = correctMonthField(c.era, c.texts);
+        EXPECT_EQ(month.month.value_or(""), c.month) << c.texts.year << "-" << c.texts.month << "-" << c.texts.day;
+        const auto day = month.month ? month.day : correctDayField(c.era, c.texts);
+        EXPECT_EQ(day.value_or(""), c.day) << c.texts.year << "-" << c.texts.month << "-" << c.texts.day;
+    }
+    EXPECT_EQ(correctYearField(kHeisei, {"31", "5", "1"}).era, kReiwa);
+    EXPECT_EQ(correctYearField(kReiwa, {"02", "3", "15"}).year, "2");
+    EXPECT_EQ(payDayText("45"), "31");
+    EXPECT_EQ(payDayText("8.9"), "8");
+}
+
+struct FirstPaymentCase {
+    std::int64_t month, day, payDay;
+    int delay;
+    const char* first;
+};
+
+TEST(LoanDates, FirstPaymentFollowsThePayDayAndTheDelay) {
+    const FirstPaymentCase cases[] = {
+        {1, 15, 20, kNext, "2023-01-20"},        {1, 15, 15, kNext, "2023-02-15"},
+        {1, 15, 20, kTwoAfter, "2023-02-20"},    {1, 15, 10, kThreeAfter, "2023-04-10"},
+        {1, 31, 31, kNext, "2023-02-28"},        {2, 28, 31, kNext, "2023-03-31"},
+        {12, 31, 31, kNext, "2024-01-31"},       {12, 20, 8, kThreeAfter, "2024-03-08"},
+        {12, 30, 31, kThreeAfter, "2024-02-29"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(iso(loanDates({kWestern, 2023, c.month, c.day, c.payDay, c.delay}, 12).firstPayment), c.first)
+            << "borrowed 2023-" << c.month << "-" << c.day << " pay day " << c.payDay << " delay " << c.delay;
+}
+
+struct PayoffCase {
+    DateLine line;
+    std::int64_t count;
+    const char* text;
+};
+
+TEST(LoanDates, PayoffStatement) {
+    const PayoffCase cases[] = {
+        {{kWestern, 2020, 3, 15, 8, kNext}, 144, "2032 / 3 / 8 "},
+        {{kReiwa, 2, 3, 15, 8, kNext}, 144, "Reiwa  14 / 3 / 8 "},
+        {{kHeisei, 30, 3, 15, 8, kNext}, 12, "Heisei  31 / 3 / 8 "},
+        {{kWestern, 2023, 12, 31, 31, kNext}, 2, "2024 / 2 / 29 "},
+        {{kWestern, 2020, 3, 15, 8, kNext}, -2, "2020 / 1 / 8 "}, // before the first payment: the month carries
+    };
+    for (const auto& c : cases) EXPECT_EQ(payoffText(loanDates(c.line, c.count).payoff, c.line.era, {}), c.text);
+    const PayoffWords japanese{{"", "昭和", "平成", "令和"}, "年", "月", "日"};
+    EXPECT_EQ(payoffText(Date(2032, 3, 8), kReiwa, japanese), "令和  14 年 3 月 8 日");
 }
 
 } // namespace

@@ -1,132 +1,87 @@
+// The calculation: worked examples, the date column, the listed range, refusals, and the walk's
+// invariants on random forms.
 #include "engine/calculation.h"
+#include "runtime/numbers.h"
+#include "table/rows.h"
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using namespace engine;
+using table::Row;
 
 namespace {
 
 // The default loan borrowed on 2020-03-15, pay day 8, "Next": first payment 2020-04-08.
-LoanForm defaultLoan(bool flat, int era = calendar::kWestern, std::string year = "2020") {
+LoanForm loan2020(bool flat, int era = calendar::kWestern, std::string year = "2020") {
     LoanForm form;
     form.era = era;
     form.date = {std::move(year), "3", "15", "8"};
-    form.isGanri = flat;
+    form.flatPayment = flat;
     return form;
 }
 
-struct RowCase {
-    std::size_t index;
-    Row row;
-};
-
-void expectRows(const std::vector<Row>& rows, std::initializer_list<RowCase> cases) {
-    for (const auto& c : cases) {
-        ASSERT_LT(c.index, rows.size());
-        EXPECT_EQ(rows[c.index], c.row) << "row " << c.index + 1;
-    }
+std::vector<Row> rows(const LoanForm& form, const ListedRange& listed = {}) {
+    const Calculation calc = calculate(form, listed);
+    return table::rowTexts(calc.payments, calc.terms.dateLine.era, calc.terms.dateLine.payDay);
 }
 
-TEST(Schedule, FlatPaymentOfTheDefaultLoan) {
-    const Calculation calc = calculate(defaultLoan(true));
-    ASSERT_EQ(calc.refusal, Refusal::None);
-    EXPECT_EQ(calc.record.hPart, 781684.0);
-    ASSERT_EQ(calc.rows.size(), 144u);
-    expectRows(calc.rows, {
-                              {0, {"001", "20.04.08", "781,684", "650,264", "131,420", "99,349,736"}},
-                              {1, {"002", "20.05.08", "781,684", "618,478", "163,206", "98,731,258"}},
-                              {142, {"143", "32.02.08", "781,684", "779,112", "2,572", "735,990"}},
-                              {143, {"144", "32.03.08", "737,159", "735,990", "1,169", "0"}},
-                          });
-    EXPECT_EQ(calc.payoffText, "2032 / 3 / 8 ");
+TEST(Schedule, WorkedExamplesOfBothMethods) {
+    const auto flat = rows(loan2020(true));
+    ASSERT_EQ(flat.size(), 144u);
+    EXPECT_EQ(flat[0], (Row{"001", "20.04.08", "781,684", "650,264", "131,420", "99,349,736"}));
+    EXPECT_EQ(flat[1], (Row{"002", "20.05.08", "781,684", "618,478", "163,206", "98,731,258"}));
+    EXPECT_EQ(flat[142], (Row{"143", "32.02.08", "781,684", "779,112", "2,572", "735,990"}));
+    EXPECT_EQ(flat[143], (Row{"144", "32.03.08", "737,159", "735,990", "1,169", "0"}));
+    const auto equal = rows(loan2020(false));
+    EXPECT_EQ(equal[0], (Row{"001", "20.04.08", "825,864", "694,444", "131,420", "99,305,556"}));
+    EXPECT_EQ(equal[143], (Row{"144", "32.03.08", "695,611", "694,508", "1,103", "0"}));
 }
 
-TEST(Schedule, EqualPrincipalOfTheDefaultLoan) {
-    const Calculation calc = calculate(defaultLoan(false));
-    ASSERT_EQ(calc.refusal, Refusal::None);
-    EXPECT_EQ(calc.record.gPart, 694444.0);
-    ASSERT_EQ(calc.rows.size(), 144u);
-    expectRows(calc.rows, {
-                              {0, {"001", "20.04.08", "825,864", "694,444", "131,420", "99,305,556"}},
-                          });
-    EXPECT_EQ(calc.rows[142][kPrincipal], "694,444");
-    EXPECT_EQ(calc.rows[142][kBalance], "694,508");
-    EXPECT_EQ(calc.rows[143][kPrincipal], "694,508");
-    EXPECT_EQ(calc.rows[143][kInterest], "1,103");
-    EXPECT_EQ(calc.rows[143][kAmount], "695,611");
-    EXPECT_EQ(calc.rows[143][kBalance], "0");
-}
-
-TEST(Schedule, DateColumnShowsTheEraYear) {
-    const Calculation reiwa = calculate(defaultLoan(false, calendar::kReiwa, "2"));
-    EXPECT_EQ(reiwa.rows[0][kDate], "02.04.08");
-    EXPECT_EQ(reiwa.payoffText, "Reiwa  14 / 3 / 8 ");
-
-    // Heisei 30, March: the rows go from 31 to Reiwa 01 in May 2019.
-    const Calculation heisei = calculate(defaultLoan(false, calendar::kHeisei, "30"));
-    EXPECT_EQ(heisei.rows[12][kDate], "31.04.08");
-    EXPECT_EQ(heisei.rows[13][kDate], "01.05.08");
-    EXPECT_EQ(heisei.rows[14][kDate], "01.06.08");
-
-    LoanForm showa = defaultLoan(false, calendar::kShowa, "63");
+TEST(Schedule, TheDateColumnShowsTheYearOfTheEraInForce) {
+    const auto heisei = rows(loan2020(false, calendar::kHeisei, "30")); // from Heisei 30 March
+    EXPECT_EQ(heisei[12][table::kDate], "31.04.08");
+    EXPECT_EQ(heisei[13][table::kDate], "01.05.08") << "Reiwa 1 from May 2019";
+    LoanForm showa = loan2020(false, calendar::kShowa, "63");
     showa.date = {"63", "12", "10", "7"};
-    EXPECT_EQ(calculate(showa).rows[0][kDate], "64.01.07");
+    EXPECT_EQ(rows(showa)[0][table::kDate], "64.01.07");
     showa.date.payDay = "8";
-    EXPECT_EQ(calculate(showa).rows[0][kDate], "01.01.08");
-}
-
-TEST(Schedule, PayDay31FollowsTheEndOfEachMonth) {
-    LoanForm form = defaultLoan(false);
-    form.date = {"2023", "12", "31", "31"};
-    const Calculation calc = calculate(form);
-    EXPECT_EQ(calc.rows[0][kDate], "24.01.31");
-    EXPECT_EQ(calc.rows[1][kDate], "24.02.29");
-    EXPECT_EQ(calc.rows[2][kDate], "24.03.31");
-    EXPECT_EQ(calc.rows[3][kDate], "24.04.30");
-}
-
-TEST(Schedule, OnePaymentClearsTheLoanWhateverTheMethod) {
-    for (const bool flat : {true, false}) {
-        LoanForm form = defaultLoan(flat);
-        form.times = "1";
-        const Calculation calc = calculate(form);
-        ASSERT_EQ(calc.rows.size(), 1u);
-        EXPECT_EQ(calc.rows[0][kPrincipal], "100,000,000");
-        EXPECT_EQ(calc.rows[0][kBalance], "0");
-    }
+    EXPECT_EQ(rows(showa)[0][table::kDate], "01.01.08") << "Heisei 1 from 8 January 1989";
+    LoanForm lastDays = loan2020(false);
+    lastDays.date = {"2023", "12", "31", "31"};
+    const auto ends = rows(lastDays);
+    EXPECT_EQ(ends[1][table::kDate], "24.02.29");
+    EXPECT_EQ(ends[3][table::kDate], "24.04.30");
 }
 
 struct RangeCase {
-    std::int64_t numTop, totalRows;
+    ListedRange listed;
     const char* times;
-    std::size_t rows;
+    std::size_t count;
     const char* first;
-    const char* last;
 };
 
-TEST(Schedule, ListsPaymentsFromNumTopToTotalRows) {
+TEST(Schedule, ListsTheRangeAsked) {
     const RangeCase cases[] = {
-        {1, 1, "144", 1, "001", "001"},  {10, 20, "144", 11, "010", "020"},
-        {5, 12, "144", 8, "005", "012"}, {144, -1, "144", 1, "144", "144"},
-        {150, -1, "144", 0, "", ""},     {1, 200, "144", 144, "001", "144"},
-        {1, -1, "-12", 0, "", ""},       {1, -1, "1e9", 100000, "001", "100000"},
+        {{10, 20}, "144", 11, "010"},
+        {{144, -1}, "144", 1, "144"},
+        {{150, -1}, "144", 0, ""},
+        {{1, 200}, "144", 144, "001"},
+        {{1, -1}, "-12", 0, ""},
+        {{1, -1}, "1e9", 100000, "001"},
+        {{std::numeric_limits<std::int64_t>::min(), 2}, "144", 2, "001"},
     };
     for (const auto& c : cases) {
-        LoanForm form = defaultLoan(false);
-        form.numTop = c.numTop;
-        form.totalRows = c.totalRows;
+        LoanForm form = loan2020(false);
         form.times = c.times;
-        const Calculation calc = calculate(form);
-        ASSERT_EQ(calc.refusal, Refusal::None);
-        ASSERT_EQ(calc.rows.size(), c.rows) << c.numTop << " to " << c.totalRows;
-        if (c.rows == 0) continue;
-        EXPECT_EQ(calc.rows.front()[kNumber], c.first);
-        EXPECT_EQ(calc.rows.back()[kNumber], c.last);
+        const auto listed = rows(form, c.listed);
+        ASSERT_EQ(listed.size(), c.count) << c.listed.first << " to " << c.listed.last << " of " << c.times;
+        if (c.count > 0) {
+            EXPECT_EQ(listed.front()[table::kNumber], c.first);
+        }
     }
-    // A cut does not change the rows it keeps.
-    LoanForm cut = defaultLoan(true);
-    cut.totalRows = 12;
-    EXPECT_EQ(calculate(cut).rows[11], calculate(defaultLoan(true)).rows[11]);
+    EXPECT_EQ(rows(loan2020(true), {1, 12})[11], rows(loan2020(true))[11]) << "a cut keeps the rows it lists";
 }
 
 struct RefusalCase {
@@ -139,36 +94,68 @@ struct RefusalCase {
 TEST(Calculate, RefusesZeroAndInexactAmounts) {
     const RefusalCase cases[] = {
         {"", "2.0", "144", Refusal::ZeroInput},
-        {"100", "0", "144", Refusal::ZeroInput},
-        {"100", "2", "0", Refusal::ZeroInput},
-        {"abc", "2", "144", Refusal::ZeroInput},
-        {",5", "2", "144", Refusal::ZeroInput},
-        {"1,000,000", "2", "144", Refusal::None},
+        {"100", "abc", "144", Refusal::ZeroInput},
+        {",5", "2", "144", Refusal::ZeroInput}, // the zero test reads the raw text
         {"-100", "2", "12", Refusal::None},
-        {"100", "1e-20", "144", Refusal::OutOfRange},
+        {"100", "1e-20", "144", Refusal::OutOfRange}, // the annuity formula divides by zero
         {"100", "2", "0.5", Refusal::OutOfRange},
-        {"1e308", "1e308", "144", Refusal::OutOfRange},
-        {"100", "1e5", "100000", Refusal::OutOfRange},
         {"1e400", "2", "144", Refusal::OutOfRange},
         {"9007199254740992", "2", "144", Refusal::None},
         {"9007199254740994", "2", "144", Refusal::OutOfRange},
-        {"9007199254740992", "2", "1", Refusal::OutOfRange}, // the one amount is principal + interest
+        {"9007199254740992", "2", "1", Refusal::OutOfRange}, // principal + interest passes 2^53
     };
     for (const auto& c : cases) {
-        LoanForm form = defaultLoan(false);
+        LoanForm form = loan2020(true);
         form.principal = c.principal;
         form.rate = c.rate;
         form.times = c.times;
-        form.isGanri = c.rate == std::string("1e-20") || c.rate == std::string("1e5");
         EXPECT_EQ(calculate(form).refusal, c.refusal) << c.principal << " " << c.rate << " " << c.times;
     }
 }
 
-TEST(Calculate, CommasInThePrincipalAreThousandsSeparators) {
-    LoanForm form = defaultLoan(false);
-    form.principal = "1,000,000";
-    form.times = "1";
-    EXPECT_EQ(calculate(form).record.gankin, 1000000.0);
+// For random forms, each payment follows from the one before by the rules of the walk.
+TEST(Schedule, EveryPaymentFollowsFromTheOneBefore) {
+    std::mt19937 random(20261123);
+    const auto pick = [&random](int low, int high) { return std::uniform_int_distribution(low, high)(random); };
+    for (int trial = 0; trial < 400; ++trial) {
+        LoanForm form;
+        form.principal = std::to_string(pick(1, 2'000'000) * 1000);
+        form.rate = std::to_string(pick(1, 1500) / 100.0);
+        form.times = std::to_string(pick(1, 420));
+        form.era = pick(0, 3);
+        form.date = {std::to_string(form.era == 0 ? pick(1950, 2050) : pick(1, 40)), std::to_string(pick(1, 12)),
+                     std::to_string(pick(1, 31)), std::to_string(pick(1, 31))};
+        form.delay = pick(0, 2);
+        form.flatPayment = pick(0, 1) == 1;
+        const Calculation calc = calculate(form);
+        ASSERT_EQ(calc.refusal, Refusal::None) << form.principal << " " << form.rate << " " << form.times;
+        const auto& p = calc.payments;
+        ASSERT_EQ(p.size(), static_cast<std::size_t>(calc.record.paymentCount));
+        double balance = calc.record.principal;
+        calendar::Date previous = calc.record.dates.borrowed;
+        for (std::size_t i = 0; i < p.size(); ++i) {
+            SCOPED_TRACE(testing::Message() << "trial " << trial << " payment " << i + 1);
+            const std::int64_t month = previous.Month() + (i == 0 ? 0 : 1);
+            const auto payDay =
+                calendar::dayWithinMonth(calendar::kWestern, previous.Year(), month, calc.terms.dateLine.payDay);
+            if (i > 0) {
+                EXPECT_EQ(p[i].date, calendar::Date(previous.Year(), month, payDay));
+            }
+            const double days = static_cast<double>(calendar::daysBetween(previous, p[i].date));
+            EXPECT_EQ(p[i].interest, runtime::Round(balance * calc.record.dailyRate * days));
+            EXPECT_EQ(p[i].amount, p[i].principal + p[i].interest);
+            if (i + 1 < p.size()) {
+                EXPECT_EQ(calc.record.flatPayment ? p[i].amount : p[i].principal,
+                          calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal);
+            }
+            EXPECT_EQ(p[i].balance, balance - p[i].principal);
+            balance = p[i].balance;
+            previous = p[i].date;
+        }
+        EXPECT_EQ(balance, 0.0) << "the last payment takes up the difference";
+        EXPECT_EQ(p.front().date, calc.record.dates.firstPayment);
+        EXPECT_EQ(p.back().date, calc.record.dates.payoff);
+    }
 }
 
 } // namespace

@@ -20,8 +20,7 @@ MonthField correctMonthField(int era, const DateFieldTexts& texts) {
     const std::int64_t month = intVal(texts.month);
     const std::int64_t day = intVal(texts.day);
     const std::int64_t newMonth = std::clamp<std::int64_t>(month, 1, 12);
-    std::int64_t newDay = day;
-    optMonthDay(era, readYear(texts.year), newMonth, newDay);
+    const std::int64_t newDay = dayWithinMonth(era, readYear(texts.year), newMonth, day);
 
     MonthField field;
     if (newMonth != month) field.month = Str(newMonth);
@@ -31,8 +30,7 @@ MonthField correctMonthField(int era, const DateFieldTexts& texts) {
 
 std::optional<std::string> correctDayField(int era, const DateFieldTexts& texts) {
     const std::int64_t day = intVal(texts.day);
-    std::int64_t newDay = day;
-    optMonthDay(era, readYear(texts.year), intVal(texts.month), newDay);
+    const std::int64_t newDay = dayWithinMonth(era, readYear(texts.year), intVal(texts.month), day);
     if (newDay == day) return std::nullopt;
     return Str(newDay);
 }

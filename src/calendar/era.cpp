@@ -19,9 +19,9 @@ bool isLastMonthsOfHeisei(std::int64_t year, std::int64_t month) { return year =
 
 std::int64_t readYear(std::string_view text) { return std::clamp(runtime::intVal(text), -kYearLimit, kYearLimit); }
 
-EraYear displayedEraYear(int era, std::int64_t westernYear, std::int64_t month, std::int64_t day) {
-    EraYear shown{era, westernYear - getSeireki(era, 0)};
-    if (era < 0 || era >= kEraCount) shown = {kWestern, westernYear};
+EraYear displayedEraYear(int era, std::int64_t western, std::int64_t month, std::int64_t day) {
+    EraYear shown{era, yearInEra(era, western)};
+    if (era < 0 || era >= kEraCount) shown = {kWestern, western};
     if (shown.era == kShowa && shown.year > kLastShowaYear && !isLastDaysOfShowa(shown.year, month, day))
         shown = {kHeisei, shown.year - kLastShowaYear};
     if (shown.era == kHeisei && shown.year > kLastHeiseiYear && !isLastMonthsOfHeisei(shown.year, month))
@@ -38,7 +38,7 @@ EraCorrection correctEra(int era, std::int64_t year, std::int64_t month, std::in
     EraYear& y = c.result;
     if (y.era == kShowa) {
         if (y.year < 1)
-            moveTo(kWestern, y.year + getSeireki(kShowa, 0));
+            moveTo(kWestern, y.year + westernYear(kShowa, 0));
         else if (y.year > kLastShowaYear && !isLastDaysOfShowa(y.year, month, day))
             moveTo(kHeisei, y.year - kLastShowaYear);
     }
@@ -53,8 +53,8 @@ EraCorrection correctEra(int era, std::int64_t year, std::int64_t month, std::in
 }
 
 EraYear convertCalendar(int era, std::int64_t year, std::int64_t month, std::int64_t day) {
-    if (era != kWestern) return {kWestern, getSeireki(era, year)};
-    if (year <= getSeireki(kShowa, 0)) return {kWestern, year};
+    if (era != kWestern) return {kWestern, westernYear(era, year)};
+    if (year <= westernYear(kShowa, 0)) return {kWestern, year};
     // A Western year shows under the era of its date: Showa from 1926, and on from there.
     return displayedEraYear(kShowa, year, month, day);
 }

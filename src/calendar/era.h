@@ -25,7 +25,7 @@ struct EraYear {
 // it. A date past the end of the era moves on to the next (Showa to Heisei after 7 January 1989,
 // Heisei to Reiwa after April 2019, both in one step); `day` is the pay day the boundary tests.
 // The Western calendar shows the year itself.
-EraYear displayedEraYear(int era, std::int64_t westernYear, std::int64_t month, std::int64_t day);
+EraYear displayedEraYear(int era, std::int64_t western, std::int64_t month, std::int64_t day);
 
 // A year that does not fit its era climbs through as many eras as it must, or steps back one
 // (a Showa year below 1 becomes Western). `changed` tells whether era or year moved.

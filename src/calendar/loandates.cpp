@@ -26,9 +26,7 @@ LoanDates loanDates(const DateLine& line, std::int64_t count) {
     // The first payment: the pay day of the borrowing month moved on by the delay, and one
     // month more where it does not fall later in its month than the borrowing day.
     std::int64_t payMonth = line.month + line.delay;
-    std::int64_t limitedDay = line.payDay;
-    optMonthDay(line.era, line.year, payMonth, limitedDay);
-    if (limitedDay <= line.day) ++payMonth;
+    if (dayWithinMonth(line.era, line.year, payMonth, line.payDay) <= line.day) ++payMonth;
     std::int64_t payYear = line.year;
     if (payMonth > 12) {
         payYear += 1;
@@ -36,12 +34,12 @@ LoanDates loanDates(const DateLine& line, std::int64_t count) {
     }
 
     LoanDates dates;
-    dates.kariire = setDateFrom(line.era, line.year, line.month, line.day);
-    dates.start = setDateFrom(line.era, payYear, payMonth, line.payDay);
+    dates.borrowed = dateFromEraYear(line.era, line.year, line.month, line.day);
+    dates.firstPayment = dateFromEraYear(line.era, payYear, payMonth, line.payDay);
 
     // The pay-off date: count - 1 months after the first payment.
-    std::int64_t year = dates.start.Year() + count / 12;
-    std::int64_t month = dates.start.Month() + count % 12 - 1;
+    std::int64_t year = dates.firstPayment.Year() + count / 12;
+    std::int64_t month = dates.firstPayment.Month() + count % 12 - 1;
     if (month == 0) {
         year -= 1;
         month = 12;
@@ -50,21 +48,19 @@ LoanDates loanDates(const DateLine& line, std::int64_t count) {
         year += 1;
         month -= 12;
     }
-    std::int64_t payDay = line.payDay;
-    optMonthDay(kWestern, year, month, payDay);
-    dates.kansai = Date(year, month, payDay);
+    dates.payoff = Date(year, month, dayWithinMonth(kWestern, year, month, line.payDay));
     return dates;
 }
 
-std::string payoffText(const Date& kansai, int era, const PayoffWords& words) {
+std::string payoffText(const Date& payoff, int era, const PayoffWords& words) {
     using runtime::Format;
-    const EraYear shown = displayedEraYear(era, kansai.Year(), kansai.Month(), kansai.Day());
+    const EraYear shown = displayedEraYear(era, payoff.Year(), payoff.Month(), payoff.Day());
     const auto number = [](std::int64_t n, std::string_view mask) { return Format(static_cast<double>(n), mask); };
     std::string text = shown.era == kWestern
                            ? number(shown.year, "####")
                            : words.eraNames[static_cast<std::size_t>(shown.era)] + "  " + number(shown.year, "##");
-    text += " " + words.year + " " + number(kansai.Month(), "##") + " " + words.month + " " +
-            number(kansai.Day(), "##") + " " + words.day;
+    text += " " + words.year + " " + number(payoff.Month(), "##") + " " + words.month + " " +
+            number(payoff.Day(), "##") + " " + words.day;
     return text;
 }
 

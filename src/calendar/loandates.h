@@ -11,7 +11,7 @@
 
 namespace calendar {
 
-// Which pay day after the borrowing date comes first: DelayPop's menu value, in months added.
+// Which pay day after the borrowing date comes first: the delay button's menu value, in months added.
 enum Delay : int { kNext = 0, kTwoAfter = 1, kThreeAfter = 2 };
 
 // The date line as integers, each read from its field's text.
@@ -30,9 +30,9 @@ struct DateLineTexts {
 DateLine readDateLine(int era, const DateLineTexts& texts, int delay);
 
 struct LoanDates {
-    Date kariire; // borrowing
-    Date start;   // first payment
-    Date kansai;  // last payment
+    Date borrowed;
+    Date firstPayment;
+    Date payoff; // the last payment
 };
 
 // `count` is the number of payments, already within the engine's cap.
@@ -48,6 +48,6 @@ struct PayoffWords {
 };
 
 // "2032 / 3 / 8 " in the Western calendar, "Reiwa  14 / 3 / 8 " in an era.
-std::string payoffText(const Date& kansai, int era, const PayoffWords& words);
+std::string payoffText(const Date& payoff, int era, const PayoffWords& words);
 
 } // namespace calendar

@@ -6,8 +6,6 @@
 
 #include <QPushButton>
 
-#include <string>
-
 class QMenu;
 
 namespace controls {
@@ -17,9 +15,6 @@ class BevelButton : public QPushButton {
 public:
     enum class Style { Push, Toggle, Menu };
     explicit BevelButton(Style style, QWidget* parent = nullptr);
-
-    QString Caption() const { return text(); }
-    void setCaption(const QString& caption) { setText(caption); }
 
     bool Value() const { return isChecked(); }
     void setValue(bool value) { setChecked(value); }

@@ -12,7 +12,6 @@ public:
 
     int ListIndex() const { return currentIndex(); }
     void setListIndex(int index) { setCurrentIndex(index); }
-    QString Text() const { return currentText(); }
 
 signals:
     void Change();

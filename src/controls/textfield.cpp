@@ -13,16 +13,11 @@ bool isPassing(Qt::FocusReason reason) {
 
 } // namespace
 
-TextField::TextField(QWidget* parent) : QLineEdit(parent) {}
-
-void TextField::setText(std::string_view text) {
-    QLineEdit::setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    showStart();
-}
-
-void TextField::showStart() {
+TextField::TextField(QWidget* parent) : QLineEdit(parent) {
     // A text wider than the field shows its head, not its tail, while the field is not edited.
-    if (!hasFocus()) setCursorPosition(0);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!hasFocus()) setCursorPosition(0);
+    });
 }
 
 bool TextField::event(QEvent* event) {

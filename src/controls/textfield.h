@@ -6,18 +6,12 @@
 
 #include <QLineEdit>
 
-#include <string>
-#include <string_view>
-
 namespace controls {
 
 class TextField : public QLineEdit {
     Q_OBJECT
 public:
     explicit TextField(QWidget* parent = nullptr);
-
-    std::string Text() const { return text().toStdString(); }
-    void setText(std::string_view text);
 
     // True while a field's LostFocus runs: the focus is already on its way to another control.
     static bool isBeingLeft() { return s_fieldsBeingLeft > 0; }
@@ -32,8 +26,6 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void showStart();
-
     bool m_hasFocus = false; // GotFocus raised and LostFocus not yet
     static inline int s_fieldsBeingLeft = 0;
 };

@@ -13,53 +13,55 @@ using runtime::Val;
 // The mean length of a year in days: the daily rate's divisor, whatever years the loan spans.
 constexpr double kDaysInYear = 365.2422;
 
-std::int64_t paymentCount(const LoanForm& form) {
-    return std::clamp(runtime::intVal(form.times), -kMaxPayments, kMaxPayments);
-}
-
 } // namespace
 
-bool passesZeroTest(const LoanForm& form) {
-    return Val(form.principal) != 0.0 && Val(form.rate) != 0.0 && Val(form.times) != 0.0;
+LoanTerms readLoanForm(const LoanForm& form) {
+    LoanTerms terms;
+    // The zero test reads the raw texts: ",5" is a zero principal.
+    terms.zeroInput = Val(form.principal) == 0.0 || Val(form.rate) == 0.0 || Val(form.times) == 0.0;
+    terms.principal = Val(runtime::withoutCommas(form.principal));
+    terms.annualRate = Val(form.rate) / 100.0;
+    terms.paymentCount = std::clamp(runtime::intVal(form.times), -kMaxPayments, kMaxPayments);
+    terms.dateLine = calendar::readDateLine(form.era, form.date, form.delay);
+    terms.flatPayment = form.flatPayment;
+    return terms;
 }
 
-void culcFixedAmount(LoanRecord& record, const LoanForm& form) {
-    record.gankin = Val(runtime::withoutCommas(form.principal));
-    const double annual = Val(form.rate) / 100.0;
-    const double monthly = annual / 12.0;
-    record.nTimes = paymentCount(form);
-    record.rate = annual / kDaysInYear;
-    record.isGanri = form.isGanri;
-    const auto n = static_cast<double>(record.nTimes);
-    if (record.isGanri) {
+LoanRecord settleLoan(const LoanTerms& terms) {
+    LoanRecord record;
+    record.flatPayment = terms.flatPayment;
+    record.principal = terms.principal;
+    record.paymentCount = terms.paymentCount;
+    record.dailyRate = terms.annualRate / kDaysInYear;
+    record.payDay = terms.dateLine.payDay;
+    record.dates = calendar::loanDates(terms.dateLine, terms.paymentCount);
+    const double monthly = terms.annualRate / 12.0;
+    const auto n = static_cast<double>(terms.paymentCount);
+    if (terms.flatPayment) {
         const double t = runtime::Pow(1.0 + monthly, n);
-        record.hPart = runtime::Round(((t * monthly) * record.gankin) / (t - 1.0));
+        record.fixedPayment = runtime::Round(((t * monthly) * record.principal) / (t - 1.0));
     } else {
-        record.gPart = runtime::Round(record.gankin / n);
+        record.fixedPrincipal = runtime::Round(record.principal / n);
     }
+    return record;
 }
 
-Calculation calculate(const LoanForm& form, const calendar::PayoffWords& words) {
+Calculation calculate(const LoanForm& form, const ListedRange& listed) {
     Calculation calc;
-    if (!passesZeroTest(form)) {
+    calc.terms = readLoanForm(form);
+    if (calc.terms.zeroInput) {
         calc.refusal = Refusal::ZeroInput;
         return calc;
     }
-    const calendar::DateLine line = calendar::readDateLine(form.era, form.date, form.delay);
-    calc.record.dates = calendar::loanDates(line, paymentCount(form));
-    calc.payoffText = calendar::payoffText(calc.record.dates.kansai, form.era, words);
-
-    culcFixedAmount(calc.record, form);
-    calc.record.numTop = form.numTop;
-    calc.record.totalRows = form.totalRows;
-    const double fixedAmount = calc.record.isGanri ? calc.record.hPart : calc.record.gPart;
-    const bool exact = isExactAmount(calc.record.gankin) && isExactAmount(fixedAmount);
-    auto rows = exact ? scheduleRows(calc.record, form.era, line.payDay) : std::nullopt;
-    if (!rows) {
+    calc.record = settleLoan(calc.terms);
+    const double fixedAmount = calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal;
+    const bool exact = isExactAmount(calc.record.principal) && isExactAmount(fixedAmount);
+    auto payments = exact ? walkSchedule(calc.record, listed) : std::nullopt;
+    if (!payments) {
         calc.refusal = Refusal::OutOfRange;
         return calc;
     }
-    calc.rows = std::move(*rows);
+    calc.payments = std::move(*payments);
     return calc;
 }
 

@@ -1,21 +1,15 @@
 #pragma once
-// The calculate action: from the form to the record, the pay-off statement and the rows.
+// The calculation: from the form to the record, the pay-off date and the payments.
 
-#include "calendar/loandates.h"
 #include "engine/loan.h"
 #include "engine/schedule.h"
 
-#include <string>
 #include <vector>
 
 namespace engine {
 
-// The action runs only where principal, rate and count each read as a non-zero number,
-// tested on the raw texts, commas included.
-bool passesZeroTest(const LoanForm& form);
-
-// The daily rate, the count and the fixed amount of the method, from the form's texts.
-void culcFixedAmount(LoanRecord& record, const LoanForm& form);
+// The record of a loan read from the form: its dates, daily rate and fixed amount.
+LoanRecord settleLoan(const LoanTerms& terms);
 
 enum class Refusal {
     None,
@@ -25,11 +19,11 @@ enum class Refusal {
 
 struct Calculation {
     Refusal refusal = Refusal::None;
+    LoanTerms terms;
     LoanRecord record;
-    std::string payoffText;
-    std::vector<Row> rows;
+    std::vector<Payment> payments;
 };
 
-Calculation calculate(const LoanForm& form, const calendar::PayoffWords& words = {});
+Calculation calculate(const LoanForm& form, const ListedRange& listed = {});
 
 } // namespace engine

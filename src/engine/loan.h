@@ -1,5 +1,6 @@
 #pragma once
-// The loan as the calculate action sees it: the form it reads and the record it fills.
+// The loan: the form as the user fills it, the same form read as numbers, and the record that
+// a calculation settles from them.
 
 #include "calendar/loandates.h"
 
@@ -16,29 +17,44 @@ constexpr std::int64_t kMaxPayments = 100'000;
 constexpr double kMaxExactAmount = 9'007'199'254'740'992.0;
 inline bool isExactAmount(double amount) { return amount >= -kMaxExactAmount && amount <= kMaxExactAmount; }
 
-// The form, as the texts and choices the calculate action reads.
+// The form: its texts as typed and its choices.
 struct LoanForm {
-    std::string principal = "100000000"; // GankinField, commas allowed
-    std::string rate = "2.0";            // Nenriritsu, percent a year
-    std::string times = "144";           // Kaisu
-    int era = calendar::kReiwa;          // RekiKind
+    std::string principal = "100000000"; // commas allowed
+    std::string rate = "2.0";            // percent a year
+    std::string times = "144";           // number of monthly payments
+    std::string firstRow = "1";          // the first payment the table lists
+    int era = calendar::kReiwa;          // the era of the borrowing year
     calendar::DateLineTexts date{"02", "3", "15", "8"};
-    int delay = calendar::kNext; // DelayPop
-    bool isGanri = false;        // flat payment; else equal principal
-    std::int64_t numTop = 1;     // first payment listed
-    std::int64_t totalRows = -1; // last payment listed; negative: to the end
+    int delay = calendar::kNext;
+    bool flatPayment = false; // else equal principal
 };
+
+// The payments a table lists, by number.
+struct ListedRange {
+    std::int64_t first = 1;
+    std::int64_t last = -1; // negative: to the last payment
+};
+
+// The form read as numbers: the one place where its texts become numbers.
+struct LoanTerms {
+    bool zeroInput = false;        // principal, rate or count reads as zero (commas not removed)
+    double principal = 0.0;        // commas removed
+    double annualRate = 0.0;       // a fraction, 0.02 for 2 %
+    std::int64_t paymentCount = 0; // within kMaxPayments
+    calendar::DateLine dateLine;
+    bool flatPayment = false;
+};
+LoanTerms readLoanForm(const LoanForm& form);
 
 // What a calculation settles.
 struct LoanRecord {
-    bool isGanri = false;
-    double hPart = 0.0;  // the fixed payment of a flat-payment loan
-    double gPart = 0.0;  // the fixed principal part of an equal-principal loan
-    double gankin = 0.0; // principal
-    double rate = 0.0;   // interest per day, as a fraction of the balance
-    std::int64_t nTimes = 0;
-    std::int64_t numTop = 1;
-    std::int64_t totalRows = -1;
+    bool flatPayment = false;
+    double fixedPayment = 0.0;   // flat payment: principal and interest of each payment
+    double fixedPrincipal = 0.0; // equal principal: the principal of each payment
+    double principal = 0.0;
+    double dailyRate = 0.0; // interest per day, as a fraction of the balance
+    std::int64_t paymentCount = 0;
+    std::int64_t payDay = 0; // of each month, as read: beyond a month's length, its last day
     calendar::LoanDates dates;
 };
 

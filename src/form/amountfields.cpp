@@ -1,9 +1,9 @@
 #include "form/amountfields.h"
 
 #include "engine/loan.h"
-#include "engine/schedule.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "table/rows.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ using runtime::Val;
 std::string principalForEditing(std::string_view text) { return runtime::withoutCommas(text); }
 
 std::string principalForDisplay(std::string_view text) {
-    return runtime::Format(Val(runtime::withoutCommas(text)), engine::kAmountMask);
+    return runtime::Format(Val(runtime::withoutCommas(text)), table::kAmountMask);
 }
 
 std::string plainNumber(std::string_view text) { return Str(Val(text)); }

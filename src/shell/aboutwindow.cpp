@@ -2,6 +2,7 @@
 
 #include "shell/app.h"
 #include "strings/lookup.h"
+#include "version.h"
 
 #include <QDesktopServices>
 #include <QLabel>
@@ -59,7 +60,7 @@ void AboutWindow::ShowModal() {
     activateWindow();
 }
 
-void AboutWindow::verName_Open() { verName->setText(QString("Version ") + App::ShortVersion); }
+void AboutWindow::verName_Open() { verName->setText(QString("Version ") + kestrune::kVersion); }
 
 bool AboutWindow::urlMsg_MouseDown() {
     hide();

@@ -6,6 +6,7 @@
 #include "shell/mainwindow.h"
 #include "shell/menubar.h"
 #include "strings/lookup.h"
+#include "version.h"
 
 #include <QAction>
 #include <QIcon>
@@ -16,7 +17,7 @@ namespace shell {
 
 App::App(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("kestrune");
-    setApplicationVersion(ShortVersion);
+    setApplicationVersion(kestrune::kVersion);
     setDesktopFileName("kestrune");
     QIcon icon;
     for (const int size : {16, 32, 48, 64, 128, 256}) icon.addFile(QString(":/icons/kestrune-%1.png").arg(size));
@@ -72,7 +73,15 @@ bool App::_FileNew_Action() {
     const QList<MainWindow*> windows = mainWindows();
     MainWindow* const source = windows.isEmpty() ? nullptr : windows.front();
     auto* window = new MainWindow;
-    if (source) window->copyFormFrom(*source);
+    if (source) {
+        // The form of the front window, but for the pay day and the delay, which stay the new one's.
+        engine::LoanForm form = source->loanForm();
+        const engine::LoanForm own = window->loanForm();
+        form.date.payDay = own.date.payDay;
+        form.delay = own.delay;
+        window->setForm(form);
+        window->resize(source->size());
+    }
     window->show();
     return true;
 }

@@ -20,8 +20,6 @@ class MainWindow;
 class App : public QApplication {
     Q_OBJECT
 public:
-    static constexpr const char* ShortVersion = "0.1.3";
-
     App(int& argc, char** argv);
     ~App() override;
     static App* instance() { return static_cast<App*>(QCoreApplication::instance()); }

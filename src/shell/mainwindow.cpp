@@ -2,17 +2,17 @@
 
 #include "calendar/datefields.h"
 #include "controls/bevelbutton.h"
-#include "controls/listbox.h"
 #include "controls/locks.h"
 #include "controls/popupmenu.h"
 #include "controls/pushbutton.h"
 #include "controls/textfield.h"
 #include "form/amountfields.h"
+#include "placement/helpplacement.h"
 #include "runtime/numbers.h"
 #include "shell/aboutwindow.h"
 #include "shell/app.h"
-#include "shell/helpplacement.h"
 #include "shell/helpwindow.h"
+#include "shell/listbox.h"
 #include "shell/menubar.h"
 #include "strings/lookup.h"
 #include "table/recombination.h"
@@ -36,10 +36,10 @@ namespace {
 
 constexpr QSize kDesignSize{485, 640};
 constexpr QSize kMinimumSize{485, 250};
-constexpr std::int64_t kReiwaBase = 2018;
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 std::string str(const QString& s) { return s.toStdString(); }
+std::string textOf(const QLineEdit* field) { return str(field->text()); }
 
 } // namespace
 
@@ -91,7 +91,7 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
                            controls::Locks locks = controls::Locks(Lock::Left) | Lock::Top) {
         auto* b = new BevelButton(style, form);
         b->setObjectName(name);
-        b->setCaption(text(caption));
+        b->setText(text(caption));
         form->place(b, rect, locks);
         return b;
     };
@@ -134,7 +134,7 @@ void MainWindow::createControls(controls::LockedLayoutWidget* form) {
     CulcButton->setDefault(true);
     form->place(CulcButton, {408, 82, 57, 58}, controls::Locks(Lock::Top) | Lock::Right);
 
-    ListBox1 = new controls::ListBox(form);
+    ListBox1 = new shell::ListBox(form);
     ListBox1->setObjectName("ListBox1");
     form->place(ListBox1, {20, 146, 445, 440}, controls::Locks(Lock::Left) | Lock::Top | Lock::Right | Lock::Bottom);
 
@@ -222,7 +222,7 @@ void MainWindow::setTabOrder() {
 }
 
 void MainWindow::rememberTextOnFocus(controls::TextField* field) {
-    connect(field, &controls::TextField::GotFocus, this, [this, field] { curText = field->Text(); });
+    connect(field, &controls::TextField::GotFocus, this, [this, field] { curText = textOf(field); });
 }
 
 void MainWindow::bindHandlers() {
@@ -245,8 +245,8 @@ void MainWindow::bindHandlers() {
     connect(DelayPop, &BevelButton::Action, this, &MainWindow::DelayPop_Action);
     connect(KindPopup, &controls::PopupMenu::Change, this, &MainWindow::KindPopup_Change);
     connect(CulcButton, &controls::PushButton::Action, this, &MainWindow::CulcButton_Action);
-    connect(ListBox1, &controls::ListBox::Change, this, &MainWindow::ListBox1_Change);
-    connect(ListBox1, &controls::ListBox::SelectAllRequested, this, &MainWindow::_EditSelectAll_Action);
+    connect(ListBox1, &shell::ListBox::Change, this, &MainWindow::ListBox1_Change);
+    connect(ListBox1, &shell::ListBox::SelectAllRequested, this, &MainWindow::_EditSelectAll_Action);
     ListBox1->MouseDown = [this](int x, int y) { return ListBox1_MouseDown(x, y); };
     ListBox1->HeaderPressed = [this](int column) { return ListBox1_HeaderPressed(column); };
     connect(SelectAllButton, &BevelButton::Action, this, &MainWindow::SelectAllButton_Action);
@@ -256,21 +256,24 @@ void MainWindow::bindHandlers() {
     connect(HelpBtn, &BevelButton::Action, this, &MainWindow::HelpBtn_Action);
 }
 
-void MainWindow::copyFormFrom(const MainWindow& source) {
-    GankinField->setText(source.GankinField->Text());
-    Nenriritsu->setText(source.Nenriritsu->Text());
-    Kaisu->setText(source.Kaisu->Text());
-    Shokai->setText(source.Shokai->Text());
-    RekiKind->setMenuValue(source.RekiKind->MenuValue());
-    RekiKind->setCaption(source.RekiKind->Caption());
-    StartY->setText(source.StartY->Text());
-    StartM->setText(source.StartM->Text());
-    StartD->setText(source.StartD->Text());
-    const bool methodChanges = KindPopup->ListIndex() != source.KindPopup->ListIndex();
-    KindPopup->setListIndex(source.KindPopup->ListIndex());
-    // Where the method stays, no Change recalculates: the copied form still needs its table.
-    if (!methodChanges) CulcButton->Push();
-    resize(source.size());
+void MainWindow::setForm(const engine::LoanForm& form) {
+    GankinField->setText(qs(form.principal));
+    Nenriritsu->setText(qs(form.rate));
+    Kaisu->setText(qs(form.times));
+    Shokai->setText(qs(form.firstRow));
+    showEra(form.era);
+    StartY->setText(qs(form.date.year));
+    StartM->setText(qs(form.date.month));
+    StartD->setText(qs(form.date.day));
+    StartDX->setText(qs(form.date.payDay));
+    DelayPop->setMenuValue(form.delay);
+    DelayPop->setText(DelayPop->List(form.delay));
+    // The method last: its Change recalculates from the whole form; where it stays, a push does.
+    const int method = form.flatPayment ? 0 : 1;
+    if (KindPopup->ListIndex() != method)
+        KindPopup->setListIndex(method);
+    else
+        CulcButton->Push();
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -279,10 +282,10 @@ void MainWindow::copyFormFrom(const MainWindow& source) {
 void MainWindow::Event_Open() {
     const QDate today = QDate::currentDate();
     if (App::instance()->mainWindows().size() == 1) {
-        StartY->setText(runtime::Str(static_cast<std::int64_t>(today.year()) - kReiwaBase));
-        StartM->setText(runtime::Str(static_cast<std::int64_t>(today.month())));
-        StartD->setText(runtime::Str(static_cast<std::int64_t>(today.day())));
-        setWindowTitle(KindPopup->Text() + text(strings::kCulc));
+        StartY->setText(qs(runtime::Str(calendar::yearInEra(calendar::kReiwa, today.year()))));
+        StartM->setText(qs(runtime::Str(static_cast<std::int64_t>(today.month()))));
+        StartD->setText(qs(runtime::Str(static_cast<std::int64_t>(today.day()))));
+        setWindowTitle(KindPopup->currentText() + text(strings::kCulc));
     }
     totalRows = -1;
     GankinField->setFocus();
@@ -313,7 +316,7 @@ void MainWindow::changeEvent(QEvent* event) {
 // ---------------------------------------------------------------------------------------------
 // Calculation
 
-calendar::DateFieldTexts MainWindow::dateFieldTexts() const { return {StartY->Text(), StartM->Text(), StartD->Text()}; }
+calendar::DateFieldTexts MainWindow::dateFieldTexts() const { return {textOf(StartY), textOf(StartM), textOf(StartD)}; }
 
 calendar::PayoffWords MainWindow::payoffWords() {
     calendar::PayoffWords words;
@@ -326,28 +329,26 @@ calendar::PayoffWords MainWindow::payoffWords() {
 
 engine::LoanForm MainWindow::loanForm() const {
     engine::LoanForm form;
-    form.principal = GankinField->Text();
-    form.rate = Nenriritsu->Text();
-    form.times = Kaisu->Text();
+    form.principal = textOf(GankinField);
+    form.rate = textOf(Nenriritsu);
+    form.times = textOf(Kaisu);
+    form.firstRow = textOf(Shokai);
     form.era = RekiKind->MenuValue();
-    const calendar::DateFieldTexts date = dateFieldTexts();
-    form.date = {date.year, date.month, date.day, StartDX->Text()};
+    form.date = {textOf(StartY), textOf(StartM), textOf(StartD), textOf(StartDX)};
     form.delay = DelayPop->MenuValue();
-    form.isGanri = isGanri;
-    form.numTop = numTop;
-    form.totalRows = totalRows;
+    form.flatPayment = isGanri;
     return form;
 }
 
 void MainWindow::CulcButton_Action() {
     ++m_actionRuns;
-    if (!engine::passesZeroTest(loanForm())) return QApplication::beep();
+    if (engine::readLoanForm(loanForm()).zeroInput) return QApplication::beep();
     const bool allSelected = SelectAllButton->Value();
-    auto calc = culcFixedAmount();
+    auto calc = endEditAndCalculate();
     if (!calc) return;
-    setKansaiText(*calc);
+    showPayoff(calc->record.dates.payoff);
     record = calc->record;
-    setList(std::move(calc->rows));
+    setList(table::rowTexts(calc->payments, calc->terms.dateLine.era, calc->terms.dateLine.payDay));
     if (allSelected) {
         SelectAllButton->setValue(true);
         selectAllRows();
@@ -356,7 +357,7 @@ void MainWindow::CulcButton_Action() {
     }
 }
 
-std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
+std::optional<engine::Calculation> MainWindow::endEditAndCalculate() {
     // Moving the focus to the table ends an edit in progress: the field's LostFocus corrects
     // its text and, where it changed, runs a calculation of its own from the corrected form.
     // Where a field is being left already, the focus stays on its way to where the user sent it.
@@ -364,7 +365,7 @@ std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
     if (!controls::TextField::isBeingLeft()) ListBox1->setFocus(Qt::OtherFocusReason);
     if (m_actionRuns != runsBefore) return std::nullopt;
 
-    engine::Calculation calc = engine::calculate(loanForm(), payoffWords());
+    engine::Calculation calc = engine::calculate(loanForm(), {numTop, totalRows});
     if (calc.refusal != engine::Refusal::None) {
         QApplication::beep();
         return std::nullopt;
@@ -372,9 +373,11 @@ std::optional<engine::Calculation> MainWindow::culcFixedAmount() {
     return calc;
 }
 
-void MainWindow::setKansaiText(const engine::Calculation& calc) { Kansai->setText(qs(calc.payoffText)); }
+void MainWindow::showPayoff(const calendar::Date& payoff) {
+    Kansai->setText(qs(calendar::payoffText(payoff, RekiKind->MenuValue(), payoffWords())));
+}
 
-void MainWindow::setList(std::vector<engine::Row> rows) {
+void MainWindow::setList(std::vector<table::Row> rows) {
     ListBox1->DeleteAllRows();
     ListBox1->setRows(std::move(rows));
 }
@@ -385,7 +388,7 @@ void MainWindow::setList(std::vector<engine::Row> rows) {
 void MainWindow::KindPopup_Open() { isGanri = KindPopup->ListIndex() == 0; }
 
 void MainWindow::KindPopup_Change() {
-    setWindowTitle(KindPopup->Text() + text(strings::kCulc));
+    setWindowTitle(KindPopup->currentText() + text(strings::kCulc));
     isGanri = KindPopup->ListIndex() == 0;
     CulcButton->Push();
 }
@@ -396,7 +399,7 @@ void MainWindow::KindPopup_Change() {
 void MainWindow::showEra(int era) {
     // The first four menu items are the era names, the texts the caption is compared with.
     RekiKind->setMenuValue(era);
-    RekiKind->setCaption(RekiKind->List(era));
+    RekiKind->setText(RekiKind->List(era));
 }
 
 void MainWindow::RekiKind_Open() {
@@ -405,10 +408,10 @@ void MainWindow::RekiKind_Open() {
 }
 
 void MainWindow::RekiKind_Action() {
-    const QString oldCaption = RekiKind->Caption();
+    const QString oldCaption = RekiKind->text();
     const int choice = RekiKind->MenuValue();
     if (choice >= calendar::kWestern && choice < calendar::kEraCount) {
-        RekiKind->setCaption(RekiKind->List(choice));
+        RekiKind->setText(RekiKind->List(choice));
         optSeireki();
         CulcButton->Push();
         return;
@@ -417,10 +420,10 @@ void MainWindow::RekiKind_Action() {
     int oldEra = calendar::kWestern;
     for (int era = calendar::kShowa; era < calendar::kEraCount; ++era)
         if (oldCaption == RekiKind->List(era)) oldEra = era;
-    const auto converted = calendar::convertCalendar(oldEra, calendar::readYear(StartY->Text()),
-                                                     runtime::intVal(StartM->Text()), runtime::intVal(StartD->Text()));
+    const auto converted = calendar::convertCalendar(oldEra, calendar::readYear(textOf(StartY)),
+                                                     runtime::intVal(textOf(StartM)), runtime::intVal(textOf(StartD)));
     showEra(converted.era);
-    StartY->setText(runtime::Str(converted.year));
+    StartY->setText(qs(runtime::Str(converted.year)));
     CulcButton->Push();
 }
 
@@ -429,89 +432,89 @@ void MainWindow::optSeireki() {
     const auto field = calendar::correctYearField(RekiKind->MenuValue(), dateFieldTexts());
     if (!field.era) return;
     showEra(*field.era);
-    StartY->setText(field.year);
+    StartY->setText(qs(field.year));
 }
 
 void MainWindow::optStartY() {
     const auto field = calendar::correctYearField(RekiKind->MenuValue(), dateFieldTexts());
     if (field.era) showEra(*field.era);
-    StartY->setText(field.year);
+    StartY->setText(qs(field.year));
 }
 
 void MainWindow::StartY_LostFocus() {
     optStartY();
-    if (curText != StartY->Text()) CulcButton->Push();
+    if (curText != textOf(StartY)) CulcButton->Push();
 }
 
 void MainWindow::StartM_LostFocus() {
     const auto field = calendar::correctMonthField(RekiKind->MenuValue(), dateFieldTexts());
-    if (field.day) StartD->setText(*field.day);
-    if (field.month) StartM->setText(*field.month);
+    if (field.day) StartD->setText(qs(*field.day));
+    if (field.month) StartM->setText(qs(*field.month));
     optStartY();
-    if (curText != StartM->Text()) CulcButton->Push();
+    if (curText != textOf(StartM)) CulcButton->Push();
 }
 
 void MainWindow::StartD_LostFocus() {
-    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), dateFieldTexts())) StartD->setText(*day);
+    if (const auto day = calendar::correctDayField(RekiKind->MenuValue(), dateFieldTexts())) StartD->setText(qs(*day));
     optStartY();
-    if (curText != StartD->Text()) CulcButton->Push();
+    if (curText != textOf(StartD)) CulcButton->Push();
 }
 
 void MainWindow::StartDX_LostFocus() {
-    StartDX->setText(calendar::payDayText(StartDX->Text()));
-    if (curText != StartDX->Text()) CulcButton->Push();
+    StartDX->setText(qs(calendar::payDayText(textOf(StartDX))));
+    if (curText != textOf(StartDX)) CulcButton->Push();
 }
 
 void MainWindow::DelayPop_Open() {
     const QString items = QStringList{text(strings::kNext), text(strings::k2After), text(strings::k3After)}.join(',');
     for (const QString& item : items.split(',')) DelayPop->AddRow(item);
     DelayPop->setMenuValue(calendar::kNext);
-    DelayPop->setCaption(DelayPop->List(calendar::kNext));
+    DelayPop->setText(DelayPop->List(calendar::kNext));
 }
 
 void MainWindow::DelayPop_Action() {
-    const QString oldCaption = DelayPop->Caption();
-    DelayPop->setCaption(DelayPop->List(DelayPop->MenuValue()));
-    if (DelayPop->Caption() != oldCaption) CulcButton->Push();
+    const QString oldCaption = DelayPop->text();
+    DelayPop->setText(DelayPop->List(DelayPop->MenuValue()));
+    if (DelayPop->text() != oldCaption) CulcButton->Push();
 }
 
 // ---------------------------------------------------------------------------------------------
 // Amount fields
 
-void MainWindow::GankinField_Open() { GankinField->setText(form::principalForDisplay(GankinField->Text())); }
+void MainWindow::GankinField_Open() { GankinField->setText(qs(form::principalForDisplay(textOf(GankinField)))); }
 
 void MainWindow::GankinField_GotFocus() {
-    GankinField->setText(form::principalForEditing(GankinField->Text()));
-    curText = GankinField->Text();
+    GankinField->setText(qs(form::principalForEditing(textOf(GankinField))));
+    curText = textOf(GankinField);
 }
 
 void MainWindow::GankinField_LostFocus() {
-    const std::string plain = form::principalForEditing(GankinField->Text());
-    GankinField->setText(form::principalForDisplay(plain));
+    const std::string plain = form::principalForEditing(textOf(GankinField));
+    GankinField->setText(qs(form::principalForDisplay(plain)));
     if (curText != plain) CulcButton->Push();
 }
 
 void MainWindow::Nenriritsu_LostFocus() {
-    Nenriritsu->setText(form::plainNumber(Nenriritsu->Text()));
-    if (curText != Nenriritsu->Text()) CulcButton->Push();
+    Nenriritsu->setText(qs(form::plainNumber(textOf(Nenriritsu))));
+    if (curText != textOf(Nenriritsu)) CulcButton->Push();
 }
 
 void MainWindow::Kaisu_LostFocus() {
-    Kaisu->setText(form::countText(Kaisu->Text()));
-    if (curText != Kaisu->Text()) CulcButton->Push();
+    Kaisu->setText(qs(form::countText(textOf(Kaisu))));
+    if (curText != textOf(Kaisu)) CulcButton->Push();
 }
 
-void MainWindow::Shokai_Open() { numTop = runtime::intVal(Shokai->Text()); }
+void MainWindow::Shokai_Open() { numTop = runtime::intVal(textOf(Shokai)); }
 
 void MainWindow::Shokai_LostFocus() {
-    Shokai->setText(form::plainNumber(Shokai->Text()));
-    if (Shokai->Text() == curText) return;
-    const form::FirstRow first = form::firstRow(Shokai->Text(), Kaisu->Text());
-    Shokai->setText(first.text);
+    Shokai->setText(qs(form::plainNumber(textOf(Shokai))));
+    if (textOf(Shokai) == curText) return;
+    const form::FirstRow first = form::firstRow(textOf(Shokai), textOf(Kaisu));
+    Shokai->setText(qs(first.text));
     numTop = first.number;
     // A cut that ends before the new first row would leave no row: it goes.
     const int count = ListBox1->ListCount();
-    const double last = count > 0 ? runtime::Val(ListBox1->Cell(count - 1, engine::kNumber)) : 0.0;
+    const double last = count > 0 ? runtime::Val(ListBox1->Cell(count - 1, table::kNumber)) : 0.0;
     if (static_cast<double>(numTop) > last) prepareShowAll();
     CulcButton->Push();
 }
@@ -538,8 +541,8 @@ void MainWindow::ListBox1_Change() {
     BevelDelBelow->setEnabled(selected == 1);
     BevelDispAll->setEnabled(totalRows >= 0);
     table::SelectionSum sum;
-    for (const int row : ListBox1->SelectedRows()) sum.add(ListBox1->Cell(row, engine::kInterest));
-    RisokuTotal->setText(sum.totalText());
+    for (const int row : ListBox1->SelectedRows()) sum.add(ListBox1->Cell(row, table::kInterest));
+    RisokuTotal->setText(qs(sum.totalText()));
     SelNum->setText(qs(sum.countText()));
     optSelectBtnState();
 }
@@ -555,7 +558,7 @@ void MainWindow::selectAllRows() { ListBox1->selectAllRows(); }
 
 void MainWindow::optSelectBtnState() {
     const bool all = ListBox1->SelCount() >= ListBox1->ListCount();
-    SelectAllButton->setCaption(text(all ? strings::kDeselectAll : strings::kSelectAll));
+    SelectAllButton->setText(text(all ? strings::kDeselectAll : strings::kSelectAll));
     SelectAllButton->setValue(all);
 }
 
@@ -569,7 +572,7 @@ void MainWindow::BevelDelBelow_Action() { hideBelow(); }
 void MainWindow::hideBelow() {
     const int row = ListBox1->ListIndex();
     if (ListBox1->SelCount() != 1 || row >= ListBox1->ListCount() - 1) return;
-    totalRows = runtime::intVal(ListBox1->Cell(row, engine::kNumber));
+    totalRows = runtime::intVal(ListBox1->Cell(row, table::kNumber));
     CulcButton->Push();
     ListBox1->setListIndex(row);
 }
@@ -588,26 +591,11 @@ void MainWindow::prepareShowAll() {
 
 void MainWindow::BevelNewNext_Action() {
     if (ListBox1->ListIndex() < 0) return;
-    const int kind = KindPopup->ListIndex();
     // After the cut the selected payment is the table's last row, its balance the new principal.
     hideBelow();
     const int n = ListBox1->ListCount();
-    const table::OldLoan old{RekiKind->MenuValue(), StartY->Text(),     Kaisu->Text(),
-                             Shokai->Text(),        record.dates.start, runtime::intVal(StartDX->Text())};
-    const table::NewLoan loan = table::recombination(old, ListBox1->RowCells(n - 1), n);
-
     auto* window = new MainWindow;
-    window->GankinField->setText(loan.principal);
-    window->Nenriritsu->setText(Nenriritsu->Text());
-    window->Kaisu->setText(loan.times);
-    window->Shokai->setText("1");
-    window->showEra(loan.era);
-    window->KindPopup->setListIndex(kind);
-    window->StartY->setText(loan.year);
-    window->StartM->setText(loan.month);
-    window->StartD->setText(loan.day);
-    window->StartDX->setText(StartDX->Text());
-    window->CulcButton->Push();
+    window->setForm(table::recombination(loanForm(), record.dates.firstPayment, ListBox1->RowCells(n - 1), n));
     window->resize(size());
     window->show();
 }
@@ -628,7 +616,7 @@ void MainWindow::HelpBtn_Action() {
     const QRect main = frameGeometry();
     const int helpWidth = help->width() + main.width() - width();
     const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
-    help->move(helpWindowLeft(main.left(), main.width(), helpWidth, screenWidth), main.top());
+    help->move(placement::helpWindowLeft(main.left(), main.width(), helpWidth, screenWidth), main.top());
     app->isExistHelp = true;
     help->show();
 }

@@ -5,6 +5,7 @@
 
 #include "calendar/datefields.h"
 #include "engine/calculation.h"
+#include "table/rows.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -19,7 +20,6 @@ class QFrame;
 
 namespace controls {
 class BevelButton;
-class ListBox;
 class LockedLayoutWidget;
 class PopupMenu;
 class PushButton;
@@ -28,13 +28,17 @@ class TextField;
 
 namespace shell {
 
+class ListBox;
+
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    // The form of another window, copied as a new table copies the front window's.
-    void copyFormFrom(const MainWindow& source);
+    // The form as the calculation reads it, and its inverse: the form written whole into the
+    // controls, then calculated once (a new window's form comes this way).
+    engine::LoanForm loanForm() const;
+    void setForm(const engine::LoanForm& form);
 
     enum class EditCommand { Undo, Redo, Cut, Copy, Paste, Clear, SelectAll };
     Q_ENUM(EditCommand)
@@ -54,7 +58,7 @@ public:
     controls::BevelButton* DelayPop;
     controls::PopupMenu* KindPopup;
     controls::PushButton* CulcButton;
-    controls::ListBox* ListBox1;
+    ListBox* ListBox1;
     controls::TextField* RisokuTotal;
     QFrame* Rectangle1;
     QLabel* SelNum;
@@ -75,9 +79,11 @@ public:
 
     // Calculation.
     void CulcButton_Action();
-    std::optional<engine::Calculation> culcFixedAmount();
-    void setKansaiText(const engine::Calculation& calc);
-    void setList(std::vector<engine::Row> rows);
+    // Ends an edit in progress (whose field may calculate on its own) and calculates the form;
+    // none where the field did or the calculation is refused (with a beep).
+    std::optional<engine::Calculation> endEditAndCalculate();
+    void showPayoff(const calendar::Date& payoff);
+    void setList(std::vector<table::Row> rows);
 
     // Method popup.
     void KindPopup_Open();
@@ -139,7 +145,6 @@ private:
     void setTabOrder();
     // Sizes and places the controls so that the widest text each shows fits in the font in use.
     void fitToFont(controls::LockedLayoutWidget* form);
-    engine::LoanForm loanForm() const;
     calendar::DateFieldTexts dateFieldTexts() const;
     // The words of the pay-off statement in the user's language.
     static calendar::PayoffWords payoffWords();

@@ -28,7 +28,7 @@ std::string htmlEscaped(const std::string& cell) {
 }
 
 template <typename Cell>
-std::string joined(const std::vector<engine::Row>& rows, Cell cell, std::string_view separator,
+std::string joined(const std::vector<table::Row>& rows, Cell cell, std::string_view separator,
                    std::string_view rowStart, std::string_view rowEnd) {
     std::string text;
     for (const auto& row : rows) {
@@ -44,14 +44,14 @@ std::string joined(const std::vector<engine::Row>& rows, Cell cell, std::string_
 
 } // namespace
 
-std::string toTsv(const std::vector<engine::Row>& rows) {
+std::string toTsv(const std::vector<table::Row>& rows) {
     return joined(
         rows, [](const std::string& cell) { return cell; }, "\t", "", "\n");
 }
 
-std::string toCsv(const std::vector<engine::Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
+std::string toCsv(const std::vector<table::Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
 
-std::string toHtml(const std::vector<engine::Row>& rows) {
+std::string toHtml(const std::vector<table::Row>& rows) {
     return "<table>" +
            joined(
                rows, [](const std::string& cell) { return "<td>" + htmlEscaped(cell) + "</td>"; }, "", "<tr>",

@@ -1,7 +1,7 @@
 #pragma once
 // The rows of the table as the texts a spreadsheet reads: tab-separated, CSV and HTML.
 
-#include "engine/schedule.h"
+#include "table/rows.h"
 
 #include <string>
 #include <vector>
@@ -9,10 +9,10 @@
 namespace table {
 
 // Cells joined by tabs, rows each ended by a line feed.
-std::string toTsv(const std::vector<engine::Row>& rows);
+std::string toTsv(const std::vector<table::Row>& rows);
 // RFC 4180: fields with a comma, a quote or a line end quoted, rows ended by CR LF.
-std::string toCsv(const std::vector<engine::Row>& rows);
+std::string toCsv(const std::vector<table::Row>& rows);
 // A <table> with one <tr> a row and one <td> a cell, the texts escaped.
-std::string toHtml(const std::vector<engine::Row>& rows);
+std::string toHtml(const std::vector<table::Row>& rows);
 
 } // namespace table

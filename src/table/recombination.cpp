@@ -15,27 +15,30 @@ std::int64_t widenedYear(std::int64_t baseYear, std::int64_t twoDigits) {
     return year < baseYear ? year + 100 : year;
 }
 
-NewLoan recombination(const OldLoan& old, const engine::Row& selected, std::int64_t rowsUpToSelected) {
-    const std::int64_t month = intVal(runtime::NthField(selected[engine::kDate], ".", 2));
-    const std::int64_t day = intVal(runtime::NthField(selected[engine::kDate], ".", 3));
-
-    NewLoan loan;
-    loan.principal = selected[engine::kBalance];
+engine::LoanForm recombination(const engine::LoanForm& old, const calendar::Date& firstPayment, const Row& selected,
+                               std::int64_t rowsUpToSelected) {
+    // The rate, the pay day and the method stay; the delay and the first row are a new form's.
+    const engine::LoanForm fresh;
+    engine::LoanForm loan = old;
+    loan.delay = fresh.delay;
+    loan.firstRow = fresh.firstRow;
+    loan.principal = selected[kBalance];
     loan.times = Str(Val(old.times) - static_cast<double>(rowsUpToSelected) - Val(old.firstRow) + 1.0);
-    loan.month = Str(month);
-    loan.day = Str(day);
+    loan.date.month = Str(intVal(runtime::NthField(selected[kDate], ".", 2)));
+    loan.date.day = Str(intVal(runtime::NthField(selected[kDate], ".", 3)));
     if (old.era == calendar::kWestern) {
-        const std::int64_t twoDigits = intVal(runtime::NthField(selected[engine::kDate], ".", 1));
+        const std::int64_t twoDigits = intVal(runtime::NthField(selected[kDate], ".", 1));
         loan.era = calendar::kWestern;
-        loan.year = Str(widenedYear(calendar::readYear(old.year), twoDigits));
+        loan.date.year = Str(widenedYear(calendar::readYear(old.date.year), twoDigits));
     } else {
         // The cell shows two digits of a year whose era may have moved on during the schedule:
         // take the payment's real date and name its era and year.
-        const std::int64_t payment = intVal(selected[engine::kNumber]);
-        const calendar::Date date(old.firstPayment.Year(), old.firstPayment.Month() + payment - 1, old.payDay);
-        const auto shown = calendar::displayedEraYear(old.era, date.Year(), date.Month(), old.payDay);
+        const std::int64_t payDay = intVal(old.date.payDay);
+        const std::int64_t payment = intVal(selected[kNumber]);
+        const calendar::Date date(firstPayment.Year(), firstPayment.Month() + payment - 1, payDay);
+        const auto shown = calendar::displayedEraYear(old.era, date.Year(), date.Month(), payDay);
         loan.era = shown.era;
-        loan.year = Str(shown.year);
+        loan.date.year = Str(shown.year);
     }
     return loan;
 }

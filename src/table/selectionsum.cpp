@@ -1,8 +1,8 @@
 #include "table/selectionsum.h"
 
-#include "engine/schedule.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "table/rows.h"
 
 namespace table {
 
@@ -13,7 +13,7 @@ void SelectionSum::add(std::string_view interestCell) {
 }
 
 std::string SelectionSum::totalText() const {
-    return runtime::Format(static_cast<double>(m_total), engine::kAmountMask);
+    return runtime::Format(static_cast<double>(m_total), table::kAmountMask);
 }
 
 std::string SelectionSum::countText() const { return runtime::Str(m_count); }

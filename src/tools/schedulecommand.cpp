@@ -21,9 +21,9 @@ Prints the repayment table of a loan, calculated from the texts given as a user 
 them into the form. No field corrections are applied. Each option is given as
 "--option VALUE" or "--option=VALUE".
 
-  --principal TEXT   principal, commas allowed (default "100000000")
-  --rate TEXT        annual rate in percent (default "2.0")
-  --times TEXT       number of monthly payments, at most 100000 are walked (default "144")
+  --principal TEXT   principal, commas allowed (default "{principal}")
+  --rate TEXT        annual rate in percent (default "{rate}")
+  --times TEXT       number of monthly payments, at most {max} are walked (default "{times}")
   --first TEXT       number of the first payment listed (default "1")
   --last N           number of the last payment listed; negative or absent: to the end
   --era ERA          western, showa, heisei or reiwa: the era of --year (default reiwa)
@@ -31,7 +31,7 @@ them into the form. No field corrections are applied. Each option is given as
                      so that the borrowing date is today whichever era names it)
   --month TEXT       borrowing month (default: this month)
   --day TEXT         borrowing day (default: today)
-  --pay-day TEXT     day of the month of each payment; above 31 is the last day (default "8")
+  --pay-day TEXT     day of the month of each payment; above 31 is the last day (default "{payday}")
   --delay DELAY      next, 2after or 3after: which pay day comes first (default next)
   --method METHOD    flat (flat payment) or equal (equal principal, the default)
   --format FORMAT    table (default), tsv, csv or json
@@ -40,6 +40,19 @@ them into the form. No field corrections are applied. Each option is given as
 Exit status: 0 with the table printed; 1 when the calculation is refused (a zero principal,
 rate or count, or amounts beyond 2^53) or the output cannot be written; 2 for a bad option.
 )";
+
+// The usage with the defaults of a new form filled in.
+std::string usage() {
+    const engine::LoanForm defaults;
+    std::string text(kUsage);
+    const std::pair<std::string_view, std::string> values[] = {{"{principal}", defaults.principal},
+                                                               {"{rate}", defaults.rate},
+                                                               {"{times}", defaults.times},
+                                                               {"{max}", std::to_string(engine::kMaxPayments)},
+                                                               {"{payday}", defaults.date.payDay}};
+    for (const auto& [name, value] : values) text.replace(text.find(name), name.size(), value);
+    return text;
+}
 
 // The words of each choice, in the order of the values they stand for.
 const std::vector<std::string_view> kEras{"western", "showa", "heisei", "reiwa"};
@@ -54,8 +67,8 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
     return n;
 }
 
-engine::Row headerRow() {
-    engine::Row header;
+table::Row headerRow() {
+    table::Row header;
     const auto headings = runtime::Split(strings::kHeader.defaultText, "\t");
     std::copy_n(headings.begin(), std::min(headings.size(), header.size()), header.begin());
     return header;
@@ -75,35 +88,34 @@ std::string jsonString(std::string_view text) {
     return quoted + '"';
 }
 
-std::string jsonArray(const engine::Row& cells) {
+std::string jsonArray(const table::Row& cells) {
     std::string text = "[";
     for (std::size_t i = 0; i < cells.size(); ++i) text += (i > 0 ? ", " : "") + jsonString(cells[i]);
     return text + "]";
 }
 
-void printTable(const engine::Calculation& calc, std::ostream& out) {
-    out << strings::kLabelText10.defaultText << ' ' << calc.payoffText << "\n\n";
-    const engine::Row header = headerRow();
-    std::array<std::size_t, engine::kColumnCount> width{};
+void printTable(const std::string& payoff, const std::vector<table::Row>& rows, std::ostream& out) {
+    out << strings::kLabelText10.defaultText << ' ' << payoff << "\n\n";
+    const table::Row header = headerRow();
+    std::array<std::size_t, table::kColumnCount> width{};
     for (std::size_t c = 0; c < width.size(); ++c) {
         width[c] = header[c].size();
-        for (const auto& row : calc.rows) width[c] = std::max(width[c], row[c].size());
+        for (const auto& row : rows) width[c] = std::max(width[c], row[c].size());
     }
-    const auto printRow = [&](const engine::Row& row) {
+    const auto printRow = [&](const table::Row& row) {
         for (std::size_t c = 0; c < row.size(); ++c) {
             const std::string pad(width[c] - row[c].size(), ' ');
-            out << (c > 0 ? "  " : "") << (c < engine::kAmount ? row[c] + pad : pad + row[c]);
+            out << (c > 0 ? "  " : "") << (c < table::kAmount ? row[c] + pad : pad + row[c]);
         }
         out << '\n';
     };
     printRow(header);
-    for (const auto& row : calc.rows) printRow(row);
+    for (const auto& row : rows) printRow(row);
 }
 
-void printJson(const engine::Calculation& calc, std::ostream& out) {
-    out << "{\"payoff\": " << jsonString(calc.payoffText) << ", \"header\": " << jsonArray(headerRow())
-        << ", \"rows\": [";
-    for (std::size_t i = 0; i < calc.rows.size(); ++i) out << (i > 0 ? ", " : "") << jsonArray(calc.rows[i]);
+void printJson(const std::string& payoff, const std::vector<table::Row>& rows, std::ostream& out) {
+    out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(headerRow()) << ", \"rows\": [";
+    for (std::size_t i = 0; i < rows.size(); ++i) out << (i > 0 ? ", " : "") << jsonArray(rows[i]);
     out << "]}\n";
 }
 
@@ -117,7 +129,9 @@ int usageError(std::ostream& err, const std::string& problem) {
 int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
                        std::ostream& err) {
     engine::LoanForm form;
-    form.date = {"", runtime::Str(today.Month()), runtime::Str(today.Day()), "8"};
+    form.date.month = runtime::Str(today.Month());
+    form.date.day = runtime::Str(today.Day());
+    engine::ListedRange listed;
     std::optional<std::string> year;
     int format = 0;
     int method = 1;
@@ -133,7 +147,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
 
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--help" || args[i] == "-h") {
-            out << kUsage;
+            out << usage();
             return 0;
         }
         // "--option value" or "--option=value".
@@ -155,18 +169,18 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         } else if (option == "--year") {
             year = value;
         } else if (option == "--first") {
-            form.numTop = runtime::intVal(value);
+            listed.first = runtime::intVal(value);
         } else {
             const auto last = wholeNumber(value);
             if (!last) return usageError(err, "--last takes a whole number: " + value);
-            form.totalRows = *last < 0 ? -1 : *last;
+            listed.last = *last < 0 ? -1 : *last;
         }
     }
     // Without --year, the borrowing date is today, counted in the chosen era.
-    form.date.year = year ? *year : runtime::Str(today.Year() - calendar::getSeireki(form.era, 0));
-    form.isGanri = method == 0;
+    form.date.year = year ? *year : runtime::Str(calendar::yearInEra(form.era, today.Year()));
+    form.flatPayment = method == 0;
 
-    const engine::Calculation calc = engine::calculate(form);
+    const engine::Calculation calc = engine::calculate(form, listed);
     if (calc.refusal == engine::Refusal::ZeroInput) {
         err << "principal, rate and count must be non-zero\n";
         return 1;
@@ -175,11 +189,13 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         err << "amounts out of range\n";
         return 1;
     }
+    const std::string payoff = calendar::payoffText(calc.record.dates.payoff, form.era, {});
+    const auto rows = table::rowTexts(calc.payments, calc.terms.dateLine.era, calc.terms.dateLine.payDay);
     switch (format) {
-    case 0: printTable(calc, out); break;
-    case 1: out << table::toTsv({headerRow()}) << table::toTsv(calc.rows); break;
-    case 2: out << table::toCsv({headerRow()}) << table::toCsv(calc.rows); break;
-    default: printJson(calc, out);
+    case 0: printTable(payoff, rows, out); break;
+    case 1: out << table::toTsv({headerRow()}) << table::toTsv(rows); break;
+    case 2: out << table::toCsv({headerRow()}) << table::toCsv(rows); break;
+    default: printJson(payoff, rows, out);
     }
     return 0;
 }

@@ -27,7 +27,7 @@ void expectWhole(const QLabel* label) {
 }
 
 void expectWholeCells(const MainWindow* w) {
-    const controls::ListBox* table = w->ListBox1;
+    const shell::ListBox* table = w->ListBox1;
     const int margin = 2 * (table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, table) + 1);
     for (int row = 0; row < table->ListCount(); ++row)
         for (int column = 0; column < 6; ++column) {

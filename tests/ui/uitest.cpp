@@ -12,6 +12,12 @@ void showActive(QWidget* window) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
+void closeAllWindows() {
+    // Main windows and the help window delete themselves on closing.
+    QApplication::closeAllWindows();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 QAction* menuItem(QMainWindow* window, const char* name) {
     for (QAction* top : window->menuBar()->actions())
         if (top->menu())
@@ -20,16 +26,22 @@ QAction* menuItem(QMainWindow* window, const char* name) {
     return nullptr;
 }
 
-void closeAllWindows() {
-    // Main windows and the help window delete themselves on closing.
-    QApplication::closeAllWindows();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+engine::LoanForm loan2020() {
+    engine::LoanForm form;
+    form.era = calendar::kWestern;
+    form.date = {"2020", "3", "15", "8"};
+    return form;
 }
 
 void WindowTest::SetUp() {
     w = new MainWindow;
     showActive(w);
     m_calculations = std::make_unique<QSignalSpy>(w->CulcButton, &controls::PushButton::Action);
+}
+
+void WindowTest::setForm(const engine::LoanForm& form) {
+    w->setForm(form);
+    resetCalculations();
 }
 
 void WindowTest::typeAndLeave(controls::TextField* field, const QString& text) {
@@ -45,18 +57,10 @@ void WindowTest::visit(controls::TextField* field) {
     QTest::keyClick(field, Qt::Key_Tab);
 }
 
-void WindowTest::chooseMenuItem(controls::BevelButton* button, int item) {
-    button->menu()->actions().at(item)->trigger();
-}
-
-void WindowTest::setDate(int era, const char* year, const char* month, const char* day) {
-    w->RekiKind->setMenuValue(era);
-    w->RekiKind->setCaption(w->RekiKind->List(era));
-    w->StartY->setText(year);
-    w->StartM->setText(month);
-    w->StartD->setText(day);
-    w->CulcButton->Push();
-    resetCalculations();
+void WindowTest::clickRow(int row, Qt::KeyboardModifiers modifiers) {
+    const QModelIndex index = w->ListBox1->model()->index(row, 0);
+    w->ListBox1->scrollTo(index);
+    QTest::mouseClick(w->ListBox1->viewport(), Qt::LeftButton, modifiers, w->ListBox1->visualRect(index).center());
 }
 
 QMenu* WindowTest::openMenu(const char* name) {
@@ -66,8 +70,14 @@ QMenu* WindowTest::openMenu(const char* name) {
     return menu;
 }
 
-std::vector<engine::Row> WindowTest::table() const {
-    std::vector<engine::Row> all;
+MainWindow* WindowTest::newestWindow() const {
+    for (MainWindow* window : shell::App::instance()->mainWindows())
+        if (window != w && window->isVisible()) return window;
+    return nullptr;
+}
+
+std::vector<table::Row> WindowTest::table() const {
+    std::vector<table::Row> all;
     for (int r = 0; r < rows(); ++r) all.push_back(w->ListBox1->RowCells(r));
     return all;
 }

@@ -1,56 +1,84 @@
+// The window as a whole: start-up, a new window from the front one, refusals, the keyboard
+// order, resizing, the help and About windows, the texts in Japanese.
 #include "uitest.h"
 
+#include "calendar/calendar.h"
 #include "runtime/numbers.h"
+#include "shell/aboutwindow.h"
+#include "shell/helpwindow.h"
+#include "strings/lookup.h"
+#include "version.h"
 
 #include <QDate>
-#include <QHeaderView>
+#include <QDesktopServices>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 
 namespace {
 
 using namespace uitest;
+using shell::App;
 
-std::string reiwaYearToday() { return runtime::Str(static_cast<std::int64_t>(QDate::currentDate().year() - 2018)); }
+QString today(int part) {
+    const QDate date = QDate::currentDate();
+    const int values[] = {static_cast<int>(calendar::yearInEra(calendar::kReiwa, date.year())), date.month(),
+                          date.day()};
+    return QString::number(values[part]);
+}
 
 TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
     EXPECT_EQ(w->windowTitle(), "Equal principal Culc");
-    EXPECT_EQ(w->StartY->Text(), reiwaYearToday());
-    EXPECT_EQ(w->StartM->Text(), runtime::Str(static_cast<std::int64_t>(QDate::currentDate().month())));
-    EXPECT_EQ(w->StartD->Text(), runtime::Str(static_cast<std::int64_t>(QDate::currentDate().day())));
-    EXPECT_EQ(w->RekiKind->Caption(), "Reiwa");
-    EXPECT_EQ(w->GankinField->Text(), "100,000,000");
+    EXPECT_EQ(w->RekiKind->text(), "Reiwa");
+    EXPECT_EQ((QStringList{w->StartY->text(), w->StartM->text(), w->StartD->text()}),
+              (QStringList{today(0), today(1), today(2)}));
+    EXPECT_EQ(w->GankinField->text(), "100,000,000");
     EXPECT_EQ(rows(), 144);
-    EXPECT_EQ(cell(0, 0), "001");
-    EXPECT_EQ(cell(0, engine::kPrincipal), "694,444");
-    EXPECT_EQ(cell(143, engine::kBalance), "0");
+    EXPECT_EQ(cell(0, table::kPrincipal), "694,444");
     EXPECT_EQ(w->SelNum->text(), "0");
     EXPECT_EQ(w->RisokuTotal->text(), "0");
-    EXPECT_FALSE(w->BevelNewNext->isEnabled());
-    EXPECT_FALSE(w->BevelDispAll->isEnabled());
-    EXPECT_FALSE(w->BevelDelBelow->isEnabled());
-    EXPECT_EQ(w->ListBox1, QApplication::focusWidget());
+    for (const QWidget* button : {w->BevelNewNext, w->BevelDispAll, w->BevelDelBelow})
+        EXPECT_FALSE(button->isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
 }
 
-TEST_F(WindowTest, TableHasSixHeadingsAndNeverSorts) {
-    const auto* header = w->ListBox1->horizontalHeader();
-    QStringList headings;
-    for (int c = 0; c < w->ListBox1->model()->columnCount(); ++c)
-        headings << w->ListBox1->model()->headerData(c, Qt::Horizontal).toString();
-    EXPECT_EQ(headings, (QStringList{"No.", "Repayment", "Amount", "Principal", "Interest", "Balance"}));
-
-    w->ListBox1->setListIndex(3);
-    const auto before = table();
-    for (int c = 0; c < 6; ++c) {
-        const QPoint inHeading(header->sectionViewportPosition(c) + 5, header->height() / 2);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, inHeading);
-        QTest::mouseDClick(header->viewport(), Qt::LeftButton, {}, inHeading);
+// New copies the front window's form (but for the pay day and the delay) and its size, and
+// shows the table of that form, whichever the method.
+TEST_F(WindowTest, NewCopiesTheFrontWindowsFormAndCalculatesIt) {
+    for (const bool flat : {false, true}) {
+        engine::LoanForm form = loan2020();
+        form.principal = "30,000,000";
+        form.rate = "1.5";
+        form.times = "360";
+        form.firstRow = "5";
+        form.date = {"2020", "7", "29", "20"};
+        form.delay = calendar::kTwoAfter;
+        form.flatPayment = flat;
+        setForm(form);
+        w->resize(w->width() + 40, w->height() - 30);
+        menuItem(w, "FileNew")->trigger();
+        MainWindow* copy = newestWindow();
+        ASSERT_NE(copy, nullptr);
+        engine::LoanForm expected = form;
+        expected.date.payDay = "8";
+        expected.delay = calendar::kNext;
+        const engine::LoanForm copied = copy->loanForm();
+        EXPECT_EQ((std::tuple{copied.principal, copied.rate, copied.times, copied.firstRow, copied.era}),
+                  (std::tuple{expected.principal, expected.rate, expected.times, expected.firstRow, expected.era}));
+        EXPECT_EQ((std::tuple{copied.date.year, copied.date.month, copied.date.day, copied.date.payDay}),
+                  (std::tuple{expected.date.year, expected.date.month, expected.date.day, expected.date.payDay}));
+        EXPECT_EQ(copied.delay, expected.delay);
+        EXPECT_EQ(copied.flatPayment, flat);
+        EXPECT_EQ(copy->size(), w->size());
+        EXPECT_EQ(copy->ListBox1->Cell(0, table::kNumber), "001") << "the first row stays 1 until the field is left";
+        const auto calc = engine::calculate(expected);
+        ASSERT_EQ(copy->ListBox1->ListCount(), 360);
+        EXPECT_EQ(copy->ListBox1->RowCells(359), table::rowTexts(calc.payments, calendar::kWestern, 8).at(359));
+        copy->close();
     }
-    EXPECT_EQ(table(), before);
-    EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{3});
 }
 
-TEST_F(WindowTest, RefusedCalculationKeepsTheTable) {
+TEST_F(WindowTest, ARefusedCalculationKeepsTheTableAndBeeps) {
     const auto before = table();
     for (const char* zero : {"0", "", "abc"}) {
         w->Nenriritsu->setText(zero);
@@ -63,127 +91,114 @@ TEST_F(WindowTest, RefusedCalculationKeepsTheTable) {
     EXPECT_EQ(w->windowTitle(), "Flat payment Culc");
 }
 
-TEST_F(WindowTest, ReturnInAFieldPressesCulc) {
+TEST_F(WindowTest, TabGoesThroughTheFieldsInReadingOrderAndReturnCalculates) {
+    QTest::mouseClick(w->GankinField, Qt::LeftButton);
+    for (const QWidget* next : std::initializer_list<QWidget*>{w->Nenriritsu, w->Kaisu, w->Shokai, w->StartY, w->StartM,
+                                                               w->StartD, w->StartDX, w->ListBox1}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
+    }
     QTest::mouseClick(w->Kaisu, Qt::LeftButton);
     w->Kaisu->selectAll();
     QTest::keyClicks(w->Kaisu, "12");
     resetCalculations();
     QTest::keyClick(w->Kaisu, Qt::Key_Return);
-    EXPECT_GE(calculations(), 1);
+    EXPECT_EQ(calculations(), 2) << "the field's own on leaving, then Culc's, which finds it done";
     EXPECT_EQ(rows(), 12);
-}
-
-TEST_F(WindowTest, TabGoesThroughTheFieldsInReadingOrderThenTheTable) {
-    QTest::mouseClick(w->GankinField, Qt::LeftButton);
-    const QWidget* expected[] = {w->Nenriritsu, w->Kaisu,  w->Shokai,  w->StartY,
-                                 w->StartM,     w->StartD, w->StartDX, w->ListBox1};
-    for (const QWidget* next : expected) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
-    }
-    EXPECT_EQ(calculations(), 1) << "the rate's first visit writes 2.0 as 2";
-}
-
-TEST_F(WindowTest, AClickOnAnotherFieldAfterAChangeLandsThere) {
-    QTest::mouseClick(w->Nenriritsu, Qt::LeftButton);
-    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
-    EXPECT_EQ(w->Nenriritsu->Text(), "2");
-    EXPECT_EQ(calculations(), 1);
-    EXPECT_EQ(QApplication::focusWidget(), w->Kaisu);
-}
-
-TEST_F(WindowTest, TheCalculateButtonEndsAnEditAndLeavesTheFocusOnTheTable) {
-    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
-    w->Kaisu->selectAll();
-    QTest::keyClicks(w->Kaisu, "0120");
-    QTest::keyClick(w->Kaisu, Qt::Key_Enter);
-    EXPECT_EQ(w->Kaisu->Text(), "120");
-    EXPECT_EQ(rows(), 120);
     EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
 }
 
 TEST_F(WindowTest, ResizingFollowsTheLocks) {
-    const QPoint culc = w->CulcButton->pos();
-    const QPoint help = w->HelpBtn->pos();
+    const QPoint culc = w->CulcButton->pos(), help = w->HelpBtn->pos(), hide = w->BevelDelBelow->pos();
     const QSize table = w->ListBox1->size();
-    const QPoint hide = w->BevelDelBelow->pos();
     w->resize(w->width() + 100, w->height() + 50);
-    QCoreApplication::processEvents();
     EXPECT_EQ(w->CulcButton->pos(), culc + QPoint(100, 0));
     EXPECT_EQ(w->HelpBtn->pos(), help + QPoint(100, 0));
     EXPECT_EQ(w->ListBox1->size(), table + QSize(100, 50));
     EXPECT_EQ(w->BevelDelBelow->pos(), hide + QPoint(0, 50));
+    const int width = w->width();
     w->resize(100, 100);
-    QCoreApplication::processEvents();
-    EXPECT_GE(w->centralWidget()->width(), 485);
-    EXPECT_GE(w->centralWidget()->height(), 250);
+    EXPECT_EQ(w->centralWidget()->width(), width - 100) << "no narrower than the design";
+    EXPECT_EQ(w->centralWidget()->height(), 250);
 }
 
-TEST_F(WindowTest, FileNewCopiesTheFrontWindowsForm) {
-    w->KindPopup->setListIndex(0);
-    typeAndLeave(w->Kaisu, "24");
-    w->Shokai->setText("5");
-    w->resize(600, 700);
-    w->move(40, 30);
-    QCoreApplication::processEvents();
+TEST_F(WindowTest, TheHelpWindowStandsBesideItsWindowAndReleasesItsButton) {
+    w->HelpBtn->click();
+    shell::HelpWindow* help = App::instance()->helpWindow();
+    EXPECT_TRUE(help->isVisible());
+    // The offscreen screen has no room on the right: the help window stands flush left, frame to frame.
+    EXPECT_EQ(help->frameGeometry().topRight(), w->frameGeometry().topLeft() - QPoint(1, 0));
+    EXPECT_EQ(help->windowTitle(), "Kestrune");
+    EXPECT_FALSE(help->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_EQ(help->Label1->text().count('\n'), 9);
+    w->HelpBtn->click();
+    EXPECT_FALSE(help->isVisible());
 
-    auto* fileNew = menuItem(w, "FileNew");
-    ASSERT_NE(fileNew, nullptr);
-    fileNew->trigger();
-    auto windows = shell::App::instance()->mainWindows();
-    MainWindow* created = nullptr;
-    for (MainWindow* m : windows)
-        if (m != w) created = m;
-    ASSERT_NE(created, nullptr);
-    EXPECT_EQ(created->windowTitle(), "Flat payment Culc");
-    EXPECT_EQ(created->Kaisu->Text(), "24");
-    EXPECT_EQ(created->Shokai->Text(), "5");
-    EXPECT_EQ(created->StartY->Text(), w->StartY->Text());
-    EXPECT_EQ(created->numTop, 1);
-    EXPECT_EQ(created->ListBox1->ListCount(), 24);
-    EXPECT_EQ(created->ListBox1->Cell(0, 0), "001");
-    EXPECT_EQ(created->ListBox1->Cell(0, engine::kAmount), w->ListBox1->Cell(0, engine::kAmount));
-    EXPECT_EQ(created->size(), w->size());
+    w->HelpBtn->click();
+    menuItem(w, "FileNew")->trigger();
+    EXPECT_FALSE(help->isVisible()) << "New hides the help window";
+    EXPECT_FALSE(w->HelpBtn->Value());
+    w->HelpBtn->click();
+    help->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(w->HelpBtn->Value()) << "closing it releases its window's button";
+    EXPECT_FALSE(App::instance()->isExistHelp);
 }
 
-TEST_F(WindowTest, MenusCarryTheirItemsAndStandardShortcuts) {
-    const struct {
-        const char* name;
-        const char* text;
-        QKeySequence shortcut;
-    } items[] = {
-        {"FileNew", "New", QKeySequence::New},
-        {"FileQuit", "Quit", QKeySequence(Qt::CTRL | Qt::Key_Q)},
-        {"EditUndo", "Undo", QKeySequence::Undo},
-        {"EditRedo", "Redo", QKeySequence::Redo},
-        {"EditCut", "Cut", QKeySequence::Cut},
-        {"EditCopy", "Copy", QKeySequence::Copy},
-        {"EditPaste", "Paste", QKeySequence::Paste},
-        {"EditClear", "Delete", QKeySequence()},
-        {"EditSelectAll", "Select All", QKeySequence::SelectAll},
-        {"AppleAbout", "About this App", QKeySequence()},
-    };
-    for (const auto& item : items) {
-        const auto* action = menuItem(w, item.name);
-        ASSERT_NE(action, nullptr) << item.name;
-        EXPECT_EQ(action->text(), item.text);
-        EXPECT_EQ(action->shortcut(), item.shortcut) << item.name;
+class UrlCatcher : public QObject {
+    Q_OBJECT
+public:
+    QList<QUrl> opened;
+public slots:
+    void open(const QUrl& url) { opened.append(url); }
+};
+
+TEST_F(WindowTest, AboutShowsTheVersionAndHidesOnCloseAndOnTheLink) {
+    menuItem(w, "AppleAbout")->trigger();
+    shell::AboutWindow* about = App::instance()->aboutWindow();
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_EQ(about->verName->text(), QString("Version ") + kestrune::kVersion);
+    EXPECT_EQ(about->Canvas1->pixmap().size(), QSize(128, 128));
+    QTest::mouseClick(about->PushButton1, Qt::LeftButton);
+    EXPECT_FALSE(about->isVisible());
+
+    UrlCatcher catcher;
+    QDesktopServices::setUrlHandler("https", &catcher, "open");
+    w->_AppleAbout_Action();
+    QTest::mouseClick(about->urlMsg, Qt::LeftButton);
+    QDesktopServices::unsetUrlHandler("https");
+    EXPECT_FALSE(about->isVisible());
+    EXPECT_EQ(catcher.opened, QList<QUrl>{QUrl(shell::AboutWindow::kWebAddress)});
+}
+
+// The era menu's first four items are the era names the window compares its caption with.
+void expectTheStructureTheWindowReadsBack(const char* language) {
+    const QStringList eras = strings::fields(strings::kRekiCombination, ',');
+    EXPECT_EQ(eras.mid(0, 4), (QStringList{strings::text(strings::kRekiXst), strings::text(strings::kRekiS),
+                                           strings::text(strings::kRekiH), strings::text(strings::kRekiR)}))
+        << language;
+    EXPECT_EQ(strings::fields(strings::kHeader, '\t').size(), 6) << language;
+    EXPECT_EQ(strings::text(strings::kHelpText).count('\n'), 9) << language;
+}
+
+TEST(Strings, EveryTextInEnglishAndJapanese) {
+    EXPECT_EQ(strings::text(strings::kHeader), "No.\tRepayment\tAmount\tPrincipal\tInterest\tBalance");
+    expectTheStructureTheWindowReadsBack("English");
+    Japanese japanese;
+    ASSERT_TRUE(japanese.loaded());
+    for (const auto& constant : strings::kAllConstants) {
+        const std::string context(constant.context), name(constant.name), english(constant.defaultText);
+        EXPECT_FALSE(QCoreApplication::translate(context.c_str(), name.c_str(), english.c_str()) ==
+                     QString::fromStdString(name))
+            << name;
     }
-    // Opening the Edit menu offers what the focused control can do.
-    auto* editMenu = w->menuBar()->findChild<QMenu*>("EditMenu");
-    const auto offered = [&](const char* name) {
-        emit editMenu->aboutToShow();
-        return menuItem(w, name)->isEnabled();
-    };
-    w->ListBox1->setFocus();
-    EXPECT_FALSE(offered("EditCopy")) << "no row selected";
-    w->ListBox1->setListIndex(0);
-    EXPECT_TRUE(offered("EditCopy"));
-    EXPECT_FALSE(offered("EditPaste"));
-    QTest::mouseClick(w->Kaisu, Qt::LeftButton);
-    EXPECT_TRUE(offered("EditPaste"));
-    EXPECT_EQ(menuItem(w, "FileQuit")->menuRole(), QAction::QuitRole);
-    EXPECT_EQ(menuItem(w, "AppleAbout")->menuRole(), QAction::AboutRole);
+    expectTheStructureTheWindowReadsBack("Japanese");
+    auto* w = new MainWindow;
+    EXPECT_EQ(w->RekiKind->text(), "令和");
+    EXPECT_EQ(w->KindPopup->currentText(), "元金均等 ");
+    closeAllWindows();
 }
 
 } // namespace
+
+#include "window_test.moc"

@@ -1,10 +1,10 @@
-#include "shell/helpplacement.h"
+#include "placement/helpplacement.h"
 
-namespace shell {
+namespace placement {
 
 int helpWindowLeft(int mainLeft, int mainWidth, int helpWidth, int screenWidth) {
     if (mainLeft + mainWidth + helpWidth < screenWidth) return mainLeft + mainWidth;
     return mainLeft - helpWidth;
 }
 
-} // namespace shell
+} // namespace placement

@@ -2,8 +2,8 @@
 // Where the help window stands beside a main window: flush right where the screen has room,
 // else flush left (whether or not that is on the screen).
 
-namespace shell {
+namespace placement {
 
 int helpWindowLeft(int mainLeft, int mainWidth, int helpWidth, int screenWidth);
 
-} // namespace shell
+} // namespace placement

@@ -2,14 +2,14 @@
 // The table's rows, each its six texts, computed once by the engine and read by data().
 // The amount columns can be typed over; what is typed stands until the next rebuild.
 
-#include "engine/schedule.h"
+#include "table/rows.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>
 
 #include <vector>
 
-namespace controls {
+namespace shell {
 
 class ScheduleModel : public QAbstractTableModel {
     Q_OBJECT
@@ -17,8 +17,8 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     void setHeadings(const QStringList& headings);
-    void setRows(std::vector<engine::Row> rows);
-    const engine::Row& row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
+    void setRows(std::vector<table::Row> rows);
+    const table::Row& row(int index) const { return m_rows[static_cast<std::size_t>(index)]; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -28,8 +28,8 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
-    std::vector<engine::Row> m_rows;
+    std::vector<table::Row> m_rows;
     QStringList m_headings;
 };
 
-} // namespace controls
+} // namespace shell

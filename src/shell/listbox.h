@@ -4,7 +4,7 @@
 // a selection. The table answers Copy with the selected rows for a spreadsheet, and Select All
 // by asking its window.
 
-#include "engine/schedule.h"
+#include "table/rows.h"
 
 #include <QTableView>
 
@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace controls {
+namespace shell {
 
 class ScheduleModel;
 
@@ -30,10 +30,10 @@ public:
     int minimumTableWidth() const;
 
     const std::string& Cell(int row, int column) const;
-    const engine::Row& RowCells(int row) const;
+    const table::Row& RowCells(int row) const;
     int ListCount() const;
     void DeleteAllRows();
-    void setRows(std::vector<engine::Row> rows);
+    void setRows(std::vector<table::Row> rows);
 
     // The first selected row, -1 without one. Setting it selects that row alone.
     int ListIndex() const;
@@ -71,4 +71,4 @@ private:
     mutable std::optional<std::vector<int>> m_selectedRows; // until the selection changes
 };
 
-} // namespace controls
+} // namespace shell

@@ -1,6 +1,6 @@
-#include "controls/listbox.h"
+#include "shell/listbox.h"
 
-#include "controls/schedulemodel.h"
+#include "shell/schedulemodel.h"
 #include "table/export.h"
 
 #include <QClipboard>
@@ -11,7 +11,7 @@
 #include <QMouseEvent>
 #include <QStyle>
 
-namespace controls {
+namespace shell {
 namespace {
 
 bool isTableCommand(const QKeyEvent* key) {
@@ -71,7 +71,7 @@ const std::string& ListBox::Cell(int row, int column) const {
     return m_model->row(row)[static_cast<std::size_t>(column)];
 }
 
-const engine::Row& ListBox::RowCells(int row) const { return m_model->row(row); }
+const table::Row& ListBox::RowCells(int row) const { return m_model->row(row); }
 
 int ListBox::ListCount() const { return m_model->rowCount(); }
 
@@ -81,7 +81,7 @@ void ListBox::DeleteAllRows() {
     if (hadSelection) emit Change();
 }
 
-void ListBox::setRows(std::vector<engine::Row> rows) { m_model->setRows(std::move(rows)); }
+void ListBox::setRows(std::vector<table::Row> rows) { m_model->setRows(std::move(rows)); }
 
 int ListBox::ListIndex() const {
     const auto& rows = SelectedRows();
@@ -120,7 +120,7 @@ void ListBox::selectAllRows() {
 }
 
 void ListBox::copySelection() const {
-    std::vector<engine::Row> rows;
+    std::vector<table::Row> rows;
     for (const int r : SelectedRows()) rows.push_back(m_model->row(r));
     if (rows.empty()) return;
     auto* mime = new QMimeData;
@@ -214,4 +214,4 @@ void ListBox::selectionWasChanged() {
     emit Change();
 }
 
-} // namespace controls
+} // namespace shell

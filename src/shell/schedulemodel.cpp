@@ -1,18 +1,18 @@
-#include "controls/schedulemodel.h"
+#include "shell/schedulemodel.h"
 
-namespace controls {
+namespace shell {
 namespace {
 
-bool isAmountColumn(int column) { return column >= static_cast<int>(engine::kAmount); }
+bool isAmountColumn(int column) { return column >= static_cast<int>(table::kAmount); }
 
 } // namespace
 
 void ScheduleModel::setHeadings(const QStringList& headings) {
     m_headings = headings;
-    emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(engine::kColumnCount) - 1);
+    emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(table::kColumnCount) - 1);
 }
 
-void ScheduleModel::setRows(std::vector<engine::Row> rows) {
+void ScheduleModel::setRows(std::vector<table::Row> rows) {
     beginResetModel();
     m_rows = std::move(rows);
     endResetModel();
@@ -23,7 +23,7 @@ int ScheduleModel::rowCount(const QModelIndex& parent) const {
 }
 
 int ScheduleModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(engine::kColumnCount);
+    return parent.isValid() ? 0 : static_cast<int>(table::kColumnCount);
 }
 
 QVariant ScheduleModel::data(const QModelIndex& index, int role) const {
@@ -56,4 +56,4 @@ Qt::ItemFlags ScheduleModel::flags(const QModelIndex& index) const {
     return flags;
 }
 
-} // namespace controls
+} // namespace shell

@@ -1,0 +1,42 @@
+#include "table/rows.h"
+
+#include "calendar/era.h"
+#include "runtime/numbers.h"
+
+namespace table {
+namespace {
+
+using runtime::Format;
+
+// "24.04.08": the year under its era, the month and the day, two digits each.
+std::string dateCell(std::int64_t year, std::int64_t month, std::int64_t day) {
+    const auto twoDigits = [](std::int64_t n) { return Format(static_cast<double>(n), "00"); };
+    std::string cell = twoDigits(year % 100);
+    cell += '.';
+    cell += twoDigits(month);
+    cell += '.';
+    cell += twoDigits(day);
+    return cell;
+}
+
+} // namespace
+
+std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
+    std::vector<Row> rows;
+    rows.reserve(payments.size());
+    for (const engine::Payment& payment : payments) {
+        // A row's year shows under the era in force; once it moves on, later rows follow.
+        const auto shown = calendar::displayedEraYear(era, payment.date.Year(), payment.date.Month(), payDay);
+        era = shown.era;
+        Row& row = rows.emplace_back();
+        row[kNumber] = Format(static_cast<double>(payment.number), "000");
+        row[kDate] = dateCell(shown.year, payment.date.Month(), payment.date.Day());
+        row[kAmount] = Format(payment.amount, kAmountMask);
+        row[kPrincipal] = Format(payment.principal, kAmountMask);
+        row[kInterest] = Format(payment.interest, kAmountMask);
+        row[kBalance] = Format(payment.balance, kAmountMask);
+    }
+    return rows;
+}
+
+} // namespace table

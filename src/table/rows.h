@@ -1,0 +1,28 @@
+#pragma once
+// The rows of the table as the texts it shows: the payment number, the date under its era and
+// the amounts with thousands separators. These texts are also what the table's operations read
+// back: a typed-over cell counts as it reads.
+
+#include "engine/schedule.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace table {
+
+// No., Repayment, Amount, Principal, Interest, Balance.
+constexpr std::size_t kColumnCount = 6;
+using Row = std::array<std::string, kColumnCount>;
+
+enum Column : std::size_t { kNumber, kDate, kAmount, kPrincipal, kInterest, kBalance };
+
+// The amount mask of the table and of the sums.
+inline constexpr std::string_view kAmountMask = "###,###,###,###";
+
+// One row a payment. A date's year shows under `era`, moving on with the era in force from the
+// payment whose date (tested with `payDay`) passes the era's end.
+std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
+
+} // namespace table
