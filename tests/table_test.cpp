@@ -13,7 +13,8 @@ namespace {
 
 TEST(SelectionSum, AddsTheInterestCellsAsTheyReadTruncatingEachStep) {
     const std::pair<std::vector<const char*>, const char*> cases[] = {
-        {{}, "0"}, {{"1,234", "82,137"}, "83,371"}, {{"abc"}, "0"}, {{"12.7"}, "12"}, {{"12.7", "12.7"}, "24"}};
+        {{}, "0"},        {{"1,234", "82,137"}, "83,371"}, {{"abc"}, "0"},
+        {{"12.7"}, "12"}, {{"12.7", "12.7"}, "24"},        {{"12", "-0.5"}, "11"}};
     for (const auto& [cells, total] : cases) {
         SelectionSum sum;
         for (const char* cell : cells) sum.add(cell);
@@ -34,13 +35,13 @@ TEST(Export, TsvCsvAndHtml) {
 
 struct RecombinationCase {
     int era;
-    const char* year;      // of the old loan's borrowing
-    const char* firstRow;  // of the old table
+    const char* year;     // of the old loan's borrowing
+    const char* firstRow; // of the old table
     calendar::Date firstPayment;
     Row selected;
     std::int64_t rowsUpToSelected;
     int newEra;
-    const char* newYear, *month, *day, *times;
+    const char *newYear, *month, *day, *times;
 };
 
 TEST(Recombination, TheNewLoanStartsOnTheSelectedPayment) {

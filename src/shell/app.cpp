@@ -18,7 +18,7 @@ namespace shell {
 App::App(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("kestrune");
     setApplicationVersion(kestrune::kVersion);
-    setDesktopFileName("kestrune");
+    setDesktopFileName("org.kestrune.Kestrune");
     QIcon icon;
     for (const int size : {16, 32, 48, 64, 128, 256}) icon.addFile(QString(":/icons/kestrune-%1.png").arg(size));
     setWindowIcon(icon);

@@ -25,9 +25,8 @@ std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era,
     std::vector<Row> rows;
     rows.reserve(payments.size());
     for (const engine::Payment& payment : payments) {
-        // A row's year shows under the era in force; once it moves on, later rows follow.
+        // The era of the form, or the one that followed it by the payment's date.
         const auto shown = calendar::displayedEraYear(era, payment.date.Year(), payment.date.Month(), payDay);
-        era = shown.era;
         Row& row = rows.emplace_back();
         row[kNumber] = Format(static_cast<double>(payment.number), "000");
         row[kDate] = dateCell(shown.year, payment.date.Month(), payment.date.Day());

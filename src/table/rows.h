@@ -21,8 +21,8 @@ enum Column : std::size_t { kNumber, kDate, kAmount, kPrincipal, kInterest, kBal
 // The amount mask of the table and of the sums.
 inline constexpr std::string_view kAmountMask = "###,###,###,###";
 
-// One row a payment. A date's year shows under `era`, moving on with the era in force from the
-// payment whose date (tested with `payDay`) passes the era's end.
+// One row a payment. A date's year shows under `era`, or under the era that followed it where the
+// date (tested with `payDay`) is past that era's end.
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
 
 } // namespace table
