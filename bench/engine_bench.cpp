@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The calculation from the form's texts to the payments, and on to the rows as the table shows them.
 #include "engine/calculation.h"
 #include "table/rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starts the program as a user would and quits once the first window has painted its table.
 #include "shell/app.h"
 #include "shell/listbox.h"

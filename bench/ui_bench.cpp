@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window: start-up to the first full table, recalculation to the repainted table, memory,
 // and selecting every row of a long table.
 #include "controls/bevelbutton.h"

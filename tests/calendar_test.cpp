@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Dates, eras, the loan's dates and the corrections of the date line.
 #include "calendar/datefields.h"
 #include "calendar/era.h"

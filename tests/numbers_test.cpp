@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The number and text operations: reading a number off a text, writing it back, by a mask.
 #include "runtime/numbers.h"
 #include "runtime/text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The calculation: worked examples, the date column, the listed range, refusals, and the walk's
 // invariants on random forms.
 #include "engine/calculation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table's own rules: the interest of a selection, the texts a spreadsheet receives, the loan
 // that Recombination starts, and where the help window stands.
 #include "placement/helpplacement.h"

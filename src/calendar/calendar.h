@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The date operations of a calculation: the leap-year test, era years to Western years, the
 // day limited to its month, the date of an era year and the days between two dates.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A calendar day, with no time of day, so that the days between two dates are always whole.
 

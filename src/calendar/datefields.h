@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // How the fields of the date line correct what was typed: year and era, month, day, pay day.
 

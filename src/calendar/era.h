@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The rules of the Japanese eras: which era a Western date is shown in, how a year that does
 // not fit its era moves on, and the conversion between the Western and the Japanese calendar.

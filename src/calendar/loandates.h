@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The dates of a loan from the date line of the form: the borrowing date, the first payment
 // and the pay-off date, and the text of the pay-off statement.

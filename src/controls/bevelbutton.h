@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A bevel button, either a toggle or a menu button.
 // As a toggle, a press flips Value and then raises Action; writing Value raises nothing.

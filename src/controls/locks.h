@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Controls placed by position and size, kept in place on resizing by their locks: a control
 // locked right keeps its distance to the right edge (and stretches if also locked left), one

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A popup menu whose Change is raised whenever ListIndex takes a new value, by the user or code.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A one-line text field with GotFocus and LostFocus, as the form's handlers expect them: the
 // LostFocus of the field being left comes before the GotFocus of the next; writing the text from

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The loan: the form as the user fills it, the same form read as numbers, and the record that
 // a calculation settles from them.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The repayment schedule: the walk of the loan payment by payment, with interest on the actual
 // days of each period, as numbers and dates.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Where the help window stands beside a main window: flush right where the screen has room,
 // else flush left (whether or not that is on the screen).

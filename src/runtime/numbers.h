@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The number operations the program is written against: reading a number off the head of a
 // text, writing numbers back as text, rounding and powers. Amounts are doubles holding whole

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/aboutwindow.h"
 
 #include "shell/app.h"
@@ -35,8 +36,8 @@ AboutWindow::AboutWindow(QWidget* parent)
 
     appName = centredLabel(this, strings::text(strings::kAppName), {30, 122, 230, 46}, 26, true);
     verName = centredLabel(this, "Version", {70, 167, 150, 20}, 16);
-    copyrightMsg =
-        centredLabel(this, "\u00A9 2026 The Kestrune developers\nAll rights reserved.", {20, 233, 250, 32}, 12);
+    copyrightMsg = centredLabel(this, "\u00A9 2026 The Kestrune developers\nGNU General Public License 3 or later",
+                                {20, 233, 250, 32}, 12);
     urlMsg = centredLabel(this, kWebAddress, {35, 266, 220, 18}, 12);
     urlMsg->setStyleSheet("color: #0000ff; text-decoration: underline;");
     urlMsg->setCursor(Qt::PointingHandCursor);

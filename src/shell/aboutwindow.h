@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The About window: icon, name, version, what the program computes, copyright and the web
 // address, which opens in the browser. Modal, with no title and no close button; Close or the

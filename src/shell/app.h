@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The application: the texts in the user's language, the one help window and the one about
 // window, the order in which main windows were in front, and the command for a new table,

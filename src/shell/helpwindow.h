@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The usage text, beside the main window whose HelpBtn opened it. One is shared by all main
 // windows; closing it with its close button destroys it and releases the parent's HelpBtn.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The schedule table: rows of six texts, several of which can be selected. Change is raised
 // for every change of the selection, by the user or by code, and when clearing the rows drops

@@ -1,7 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The working window: a form above a repayment table, one loan a window. Its handlers carry
 // the names of the controls and events they answer; each reads the controls, calls the rule,
 // writes the texts and, where an input changed, pushes CulcButton, the one road to a new table.
+//
+// The road of one edit, the rate typed and left with Tab:
+//   Nenriritsu_LostFocus    writes the text plainly (form::plainNumber) and, where it changed
+//                           from what the field held on entry (curText), pushes CulcButton;
+//   CulcButton_Action       refuses a zero principal, rate or count with a beep
+//                           (engine::readLoanForm), remembers whether all rows were selected;
+//   endEditAndCalculate     reads the form once (loanForm) and calculates it (engine::calculate:
+//                           readLoanForm, settleLoan, walkSchedule), or beeps at a refusal;
+//   showPayoff, setList     write the pay-off date and the rows (table::rowTexts) into Kansai
+//                           and ListBox1, whose Change (ListBox1_Change) totals the selection;
+//   selectAllRows or optSelectBtnState bring back the Select All state.
+//
+// Glossary of the romanised names, which are the names of the controls and their handlers:
+//   gankin   principal                 ganri    principal with interest (flat payment)
+//   nenriritsu  annual rate            kaisu    number of payments
+//   shokai   first (row listed)        kansai   paid in full (the pay-off date)
+//   kariire  borrowing                 risoku   interest
+//   reki     calendar (era)            seireki  Western year
+//   uruu     leap (year)               culc     calculate
 
 #include "calendar/datefields.h"
 #include "engine/calculation.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The menu bar: File (New, Quit) and Edit (Undo, Redo, Cut, Copy, Paste, Delete, Select All,
 // About). Quit and About carry the roles that put them on the application menu of macOS.

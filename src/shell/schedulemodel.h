@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The table's rows, each its six texts, computed once by the engine and read by data().
 // The amount columns can be typed over; what is typed stands until the next rebuild.

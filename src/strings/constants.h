@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Every text the user reads, as a named constant with a key (its class and its name) and the
 // default text. The language resources translate them by key; the default is the fallback.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // A constant's text in the user's language: looked up by its key in the translations loaded at
 // start, the default text where there is none.

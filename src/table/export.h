@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The rows of the table as the texts a spreadsheet reads: tab-separated, CSV and HTML.
 

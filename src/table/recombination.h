@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Recombination: the payments after a selected one become a new loan, whose form a new window
 // receives, worked out from the old window's form and the selected row as it reads.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The rows of the table as the texts it shows: the payment number, the date under its era and
 // the amounts with thousands separators. These texts are also what the table's operations read

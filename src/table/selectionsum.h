@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The interest of the selected rows, summed from the Interest cells as they read: commas are
 // thousands separators, and the running total is truncated to a whole number at each row.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each field of the form: what leaving it makes of the text typed, and the table that follows.
 #include "uitest.h"
 

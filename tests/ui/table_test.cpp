@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user does with the table: select and total, select all, hide below and show all,
 // Recombination into a new window.
 #include "uitest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The widget tests run offscreen unless told otherwise, in the default (English) texts.
 #include "shell/app.h"
 

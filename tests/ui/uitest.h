@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Driving the real windows offscreen: a window shown and active, fields typed into and left as a
 // user does, menus opened with the mouse, and what the user would see read back.

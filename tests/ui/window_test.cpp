@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window as a whole: start-up, a new window from the front one, refusals, the keyboard
 // order, resizing, the help and About windows, the texts in Japanese.
 #include "uitest.h"
