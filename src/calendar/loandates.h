@@ -27,6 +27,7 @@ struct DateLine {
 
 struct DateLineTexts {
     std::string year, month, day, payDay;
+    friend bool operator==(const DateLineTexts&, const DateLineTexts&) = default;
 };
 DateLine readDateLine(int era, const DateLineTexts& texts, int delay);
 

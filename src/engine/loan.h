@@ -28,6 +28,8 @@ struct LoanForm {
     calendar::DateLineTexts date{"02", "3", "15", "8"};
     int delay = calendar::kNext;
     bool flatPayment = false; // else equal principal
+
+    friend bool operator==(const LoanForm&, const LoanForm&) = default;
 };
 
 // The payments a table lists, by number.

@@ -53,11 +53,6 @@ void WindowTest::typeAndLeave(controls::TextField* field, const QString& text) {
     QTest::keyClick(field, Qt::Key_Tab);
 }
 
-void WindowTest::visit(controls::TextField* field) {
-    QTest::mouseClick(field, Qt::LeftButton);
-    QTest::keyClick(field, Qt::Key_Tab);
-}
-
 void WindowTest::clickRow(int row, Qt::KeyboardModifiers modifiers) {
     const QModelIndex index = w->ListBox1->model()->index(row, 0);
     w->ListBox1->scrollTo(index);

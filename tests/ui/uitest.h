@@ -21,6 +21,15 @@
 // How gtest prints a QString when a case fails.
 inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
 
+namespace engine {
+// How gtest prints a form when a case fails.
+inline void PrintTo(const LoanForm& f, std::ostream* os) {
+    *os << f.principal << " " << f.rate << " " << f.times << " " << f.firstRow << " era " << f.era << " " << f.date.year
+        << "-" << f.date.month << "-" << f.date.day << " day " << f.date.payDay << " delay " << f.delay
+        << (f.flatPayment ? " flat" : " equal");
+}
+} // namespace engine
+
 namespace uitest {
 
 using shell::MainWindow;
@@ -58,8 +67,6 @@ protected:
     void setForm(const engine::LoanForm& form);
     // Clicks into the field, replaces its text by typing, and leaves it with Tab.
     void typeAndLeave(controls::TextField* field, const QString& text);
-    // Clicks into the field and leaves it with Tab, typing nothing.
-    void visit(controls::TextField* field);
     void chooseMenuItem(controls::BevelButton* button, int item) { button->menu()->actions().at(item)->trigger(); }
     void clickRow(int row, Qt::KeyboardModifiers modifiers = {});
     // Opens a menu of the menu bar with a click on its title, as a user does.

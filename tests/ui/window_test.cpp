@@ -47,34 +47,21 @@ TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
 // shows the table of that form, whichever the method.
 TEST_F(WindowTest, NewCopiesTheFrontWindowsFormAndCalculatesIt) {
     for (const bool flat : {false, true}) {
-        engine::LoanForm form = loan2020();
-        form.principal = "30,000,000";
-        form.rate = "1.5";
-        form.times = "360";
-        form.firstRow = "5";
-        form.date = {"2020", "7", "29", "20"};
-        form.delay = calendar::kTwoAfter;
-        form.flatPayment = flat;
+        engine::LoanForm form{"30,000,000",        "1.5", "360", "5", calendar::kWestern, {"2020", "7", "29", "20"},
+                              calendar::kTwoAfter, flat};
         setForm(form);
         w->resize(w->width() + 40, w->height() - 30);
         menuItem(w, "FileNew")->trigger();
         MainWindow* copy = newestWindow();
         ASSERT_NE(copy, nullptr);
-        engine::LoanForm expected = form;
-        expected.date.payDay = "8";
-        expected.delay = calendar::kNext;
-        const engine::LoanForm copied = copy->loanForm();
-        EXPECT_EQ((std::tuple{copied.principal, copied.rate, copied.times, copied.firstRow, copied.era}),
-                  (std::tuple{expected.principal, expected.rate, expected.times, expected.firstRow, expected.era}));
-        EXPECT_EQ((std::tuple{copied.date.year, copied.date.month, copied.date.day, copied.date.payDay}),
-                  (std::tuple{expected.date.year, expected.date.month, expected.date.day, expected.date.payDay}));
-        EXPECT_EQ(copied.delay, expected.delay);
-        EXPECT_EQ(copied.flatPayment, flat);
+        form.date.payDay = "8";
+        form.delay = calendar::kNext;
+        EXPECT_EQ(copy->loanForm(), form);
         EXPECT_EQ(copy->size(), w->size());
-        EXPECT_EQ(copy->ListBox1->Cell(0, table::kNumber), "001") << "the first row stays 1 until the field is left";
-        const auto calc = engine::calculate(expected);
-        ASSERT_EQ(copy->ListBox1->ListCount(), 360);
-        EXPECT_EQ(copy->ListBox1->RowCells(359), table::rowTexts(calc.payments, calendar::kWestern, 8).at(359));
+        const auto calc = engine::calculate(form);
+        EXPECT_EQ(copy->ListBox1->RowCells(0), table::rowTexts(calc.payments, calendar::kWestern, 8).at(0))
+            << "the table of the copied form, from payment 1 until the first-row field is left";
+        EXPECT_EQ(copy->ListBox1->ListCount(), 360);
         copy->close();
     }
 }
