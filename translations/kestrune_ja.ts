@@ -25,63 +25,63 @@ or Flat payment Calculation</comment>
     </message>
     <message>
         <source>kFileMenu</source>
-        <comment>File</comment>
-        <translation>ファイル</translation>
+        <comment>&amp;File</comment>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>kFileNew</source>
-        <comment>New</comment>
-        <translation>新規</translation>
+        <comment>&amp;New</comment>
+        <translation>新規(&amp;N)</translation>
     </message>
     <message>
         <source>kFileQuit</source>
-        <comment>Quit</comment>
-        <translation>終了</translation>
+        <comment>&amp;Quit</comment>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>kEditMenu</source>
-        <comment>Edit</comment>
-        <translation>編集</translation>
+        <comment>&amp;Edit</comment>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>kEditUndo</source>
-        <comment>Undo</comment>
-        <translation>取り消す</translation>
+        <comment>&amp;Undo</comment>
+        <translation>取り消す(&amp;U)</translation>
     </message>
     <message>
         <source>kEditRedo</source>
-        <comment>Redo</comment>
-        <translation>やり直す</translation>
+        <comment>&amp;Redo</comment>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>kEditCut</source>
-        <comment>Cut</comment>
-        <translation>カット</translation>
+        <comment>Cu&amp;t</comment>
+        <translation>カット(&amp;T)</translation>
     </message>
     <message>
         <source>kEditCopy</source>
-        <comment>Copy</comment>
-        <translation>コピー</translation>
+        <comment>&amp;Copy</comment>
+        <translation>コピー(&amp;C)</translation>
     </message>
     <message>
         <source>kEditPaste</source>
-        <comment>Paste</comment>
-        <translation>ペースト</translation>
+        <comment>&amp;Paste</comment>
+        <translation>ペースト(&amp;P)</translation>
     </message>
     <message>
         <source>kEditClear</source>
-        <comment>Delete</comment>
-        <translation>削除</translation>
+        <comment>&amp;Delete</comment>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>kEditSelectAll</source>
-        <comment>Select All</comment>
-        <translation>すべてを選択</translation>
+        <comment>Select &amp;All</comment>
+        <translation>すべてを選択(&amp;A)</translation>
     </message>
     <message>
         <source>kAppleAbout</source>
-        <comment>About this App</comment>
-        <translation>Kestrune について</translation>
+        <comment>A&amp;bout this App</comment>
+        <translation>Kestrune について(&amp;B)</translation>
     </message>
 </context>
 <context>
@@ -289,6 +289,46 @@ Press this to select all rows. Originally, the total interest of the selected ro
 (Does not work for multi-line selection)</comment>
         <translation>選択した行より後を隠します。
 （複数行を選択しているときは使えません）</translation>
+    </message>
+    <message>
+        <source>kAccBorrowYear</source>
+        <comment>Borrowing year</comment>
+        <translation>借入の年</translation>
+    </message>
+    <message>
+        <source>kAccBorrowMonth</source>
+        <comment>Borrowing month</comment>
+        <translation>借入の月</translation>
+    </message>
+    <message>
+        <source>kAccBorrowDay</source>
+        <comment>Borrowing day</comment>
+        <translation>借入の日</translation>
+    </message>
+    <message>
+        <source>kAccPayDay</source>
+        <comment>Pay day</comment>
+        <translation>返済日</translation>
+    </message>
+    <message>
+        <source>kAccCalendar</source>
+        <comment>Calendar</comment>
+        <translation>暦</translation>
+    </message>
+    <message>
+        <source>kAccDelay</source>
+        <comment>First payment</comment>
+        <translation>初回返済</translation>
+    </message>
+    <message>
+        <source>kAccMethod</source>
+        <comment>Method</comment>
+        <translation>返済方法</translation>
+    </message>
+    <message>
+        <source>kAccTable</source>
+        <comment>Repayment schedule</comment>
+        <translation>返済予定表</translation>
     </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@
 #include <QStyleOptionFrame>
 
 #include <algorithm>
+#include <cmath>
 
 namespace controls {
 namespace {
@@ -30,7 +31,7 @@ void LockedLayoutWidget::setNeededWidth(QWidget* control, int width) {
         if (placed.control == control) placed.neededWidth = width;
 }
 
-void LockedLayoutWidget::fit() {
+void LockedLayoutWidget::fit(double verticalScale) {
     // Left to right: each control as wide as it needs, and no nearer to a control before it on
     // its line than the design has it.
     std::vector<Placed*> order;
@@ -63,7 +64,7 @@ void LockedLayoutWidget::fit() {
         else
             c.fittedRect.moveRight(right - 1);
     }
-    m_fittedSize = {width, m_designSize.height()};
+    m_fittedSize = {width, static_cast<int>(std::lround(m_designSize.height() * verticalScale))};
     for (const auto& placed : m_placed) placed.control->setGeometry(rectFor(placed));
 }
 

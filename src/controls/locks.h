@@ -29,8 +29,9 @@ public:
     void place(QWidget* control, QRect designRect, Locks locks = Locks(Lock::Left) | Lock::Top);
     // The width the control needs for its texts; it is never made narrower than its design.
     void setNeededWidth(QWidget* control, int width);
-    // Lays the design out anew from the needed widths.
-    void fit();
+    // Lays the design out anew from the needed widths, its heights and rows stretched by
+    // `verticalScale` for a font taller than the design's.
+    void fit(double verticalScale = 1.0);
     // The design's size after fitting: the surface's smallest useful size.
     QSize designSize() const { return m_fittedSize; }
 

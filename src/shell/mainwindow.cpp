@@ -25,6 +25,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScreen>
 
 namespace shell {
@@ -65,6 +66,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     GankinField_Open();
     Shokai_Open();
     fitToFont(form);
+    nameControls();
     bindHandlers();
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now && now->window() == this && !qobject_cast<QMenuBar*>(now)) m_lastFocusedControl = now;
@@ -206,10 +208,38 @@ void MainWindow::fitToFont(controls::LockedLayoutWidget* form) {
         form->setNeededWidth(button, widthForCaptions(button, {button->text()}));
     form->setNeededWidth(KindPopup, KindPopup->sizeHint().width());
     form->setNeededWidth(ListBox1, ListBox1->minimumTableWidth());
-    form->fit();
+    // Rows as much taller as a field needs to be in this font (a large system font).
+    const double verticalScale = std::max(1.0, GankinField->sizeHint().height() / 22.0);
+    form->fit(verticalScale);
 
-    form->setMinimumSize(form->designSize().width(), kMinimumSize.height());
-    resize(form->designSize().width(), kDesignSize.height() + menuBar()->sizeHint().height());
+    const QSize size = form->designSize();
+    form->setMinimumSize(size.width(), static_cast<int>(kMinimumSize.height() * verticalScale));
+    resize(size.width(), size.height() + menuBar()->sizeHint().height());
+}
+
+void MainWindow::nameControls() {
+    // What a screen reader says of each control: a field is named by its label (without the
+    // colon), a button that chooses by what it chooses, a figure by its label; the value chosen
+    // or shown is the description, kept up to date where it changes.
+    const auto bare = [](const QLabel* label) { return label->text().remove(QRegularExpression("[:：]\\s*$")); };
+    const std::pair<QWidget*, int> labelled[] = {{GankinField, 0}, {Nenriritsu, 1}, {Kaisu, 2},  {Shokai, 9},
+                                                 {RisokuTotal, 8}, {SelNum, 7},     {Kansai, 10}};
+    for (const auto& [control, label] : labelled) {
+        control->setAccessibleName(bare(LabelText[label]));
+        LabelText[label]->setBuddy(control);
+    }
+    const std::pair<QWidget*, const strings::Constant&> named[] = {
+        {StartY, strings::kAccBorrowYear}, {StartM, strings::kAccBorrowMonth}, {StartD, strings::kAccBorrowDay},
+        {StartDX, strings::kAccPayDay},    {RekiKind, strings::kAccCalendar},  {DelayPop, strings::kAccDelay},
+        {KindPopup, strings::kAccMethod},  {ListBox1, strings::kAccTable}};
+    for (const auto& [control, name] : named) control->setAccessibleName(text(name));
+    // On Linux a screen reader names a combo box by the label whose buddy it is: the method has
+    // none on the screen, so it gets one that is not shown.
+    auto* methodLabel = new QLabel(text(strings::kAccMethod), KindPopup->parentWidget());
+    methodLabel->setBuddy(KindPopup);
+    methodLabel->hide();
+    LabelText[11]->setBuddy(StartY);
+    LabelText[3]->setBuddy(StartDX);
 }
 
 void MainWindow::setTabOrder() {
@@ -267,8 +297,7 @@ void MainWindow::setForm(const engine::LoanForm& form) {
     StartM->setText(qs(form.date.month));
     StartD->setText(qs(form.date.day));
     StartDX->setText(qs(form.date.payDay));
-    DelayPop->setMenuValue(form.delay);
-    DelayPop->setText(DelayPop->List(form.delay));
+    showDelay(form.delay);
     // The method last: its Change recalculates from the whole form; where it stays, a push does.
     const int method = form.flatPayment ? 0 : 1;
     if (KindPopup->ListIndex() != method)
@@ -376,6 +405,7 @@ std::optional<engine::Calculation> MainWindow::endEditAndCalculate() {
 
 void MainWindow::showPayoff(const calendar::Date& payoff) {
     Kansai->setText(qs(calendar::payoffText(payoff, RekiKind->MenuValue(), payoffWords())));
+    Kansai->setAccessibleDescription(Kansai->text());
 }
 
 void MainWindow::setList(std::vector<table::Row> rows) {
@@ -401,6 +431,7 @@ void MainWindow::showEra(int era) {
     // The first four menu items are the era names, the texts the caption is compared with.
     RekiKind->setMenuValue(era);
     RekiKind->setText(RekiKind->List(era));
+    RekiKind->setAccessibleDescription(RekiKind->text());
 }
 
 void MainWindow::RekiKind_Open() {
@@ -412,7 +443,7 @@ void MainWindow::RekiKind_Action() {
     const QString oldCaption = RekiKind->text();
     const int choice = RekiKind->MenuValue();
     if (choice >= calendar::kWestern && choice < calendar::kEraCount) {
-        RekiKind->setText(RekiKind->List(choice));
+        showEra(choice);
         optSeireki();
         CulcButton->Push();
         return;
@@ -469,14 +500,19 @@ void MainWindow::StartDX_LostFocus() {
 void MainWindow::DelayPop_Open() {
     const QString items = QStringList{text(strings::kNext), text(strings::k2After), text(strings::k3After)}.join(',');
     for (const QString& item : items.split(',')) DelayPop->AddRow(item);
-    DelayPop->setMenuValue(calendar::kNext);
-    DelayPop->setText(DelayPop->List(calendar::kNext));
+    showDelay(calendar::kNext);
 }
 
 void MainWindow::DelayPop_Action() {
     const QString oldCaption = DelayPop->text();
-    DelayPop->setText(DelayPop->List(DelayPop->MenuValue()));
+    showDelay(DelayPop->MenuValue());
     if (DelayPop->text() != oldCaption) CulcButton->Push();
+}
+
+void MainWindow::showDelay(int delay) {
+    DelayPop->setMenuValue(delay);
+    DelayPop->setText(DelayPop->List(delay));
+    DelayPop->setAccessibleDescription(DelayPop->text());
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -545,6 +581,7 @@ void MainWindow::ListBox1_Change() {
     for (const int row : ListBox1->SelectedRows()) sum.add(ListBox1->Cell(row, table::kInterest));
     RisokuTotal->setText(qs(sum.totalText()));
     SelNum->setText(qs(sum.countText()));
+    SelNum->setAccessibleDescription(SelNum->text());
     optSelectBtnState();
 }
 

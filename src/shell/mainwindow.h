@@ -168,8 +168,11 @@ private:
     calendar::DateFieldTexts dateFieldTexts() const;
     // The words of the pay-off statement in the user's language.
     static calendar::PayoffWords payoffWords();
-    // The era shown by RekiKind, caption and menu value together.
+    // The era shown by RekiKind, caption and menu value together; the same for the delay.
     void showEra(int era);
+    void showDelay(int delay);
+    // The names that assistive technology reads.
+    void nameControls();
     // Every field whose focus handlers only remember the text it had.
     void rememberTextOnFocus(controls::TextField* field);
 

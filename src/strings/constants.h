@@ -24,18 +24,18 @@ struct Constant {
 inline constexpr Constant kAppName = KESTRUNE_TEXT("App", "kAppName", "Kestrune");
 inline constexpr Constant kAppName2 =
     KESTRUNE_TEXT("App", "kAppName2", "Principal payment\nor Flat payment Calculation");
-inline constexpr Constant kFileMenu = KESTRUNE_TEXT("App", "kFileMenu", "File");
-inline constexpr Constant kFileNew = KESTRUNE_TEXT("App", "kFileNew", "New");
-inline constexpr Constant kFileQuit = KESTRUNE_TEXT("App", "kFileQuit", "Quit");
-inline constexpr Constant kEditMenu = KESTRUNE_TEXT("App", "kEditMenu", "Edit");
-inline constexpr Constant kEditUndo = KESTRUNE_TEXT("App", "kEditUndo", "Undo");
-inline constexpr Constant kEditRedo = KESTRUNE_TEXT("App", "kEditRedo", "Redo");
-inline constexpr Constant kEditCut = KESTRUNE_TEXT("App", "kEditCut", "Cut");
-inline constexpr Constant kEditCopy = KESTRUNE_TEXT("App", "kEditCopy", "Copy");
-inline constexpr Constant kEditPaste = KESTRUNE_TEXT("App", "kEditPaste", "Paste");
-inline constexpr Constant kEditClear = KESTRUNE_TEXT("App", "kEditClear", "Delete");
-inline constexpr Constant kEditSelectAll = KESTRUNE_TEXT("App", "kEditSelectAll", "Select All");
-inline constexpr Constant kAppleAbout = KESTRUNE_TEXT("App", "kAppleAbout", "About this App");
+inline constexpr Constant kFileMenu = KESTRUNE_TEXT("App", "kFileMenu", "&File");
+inline constexpr Constant kFileNew = KESTRUNE_TEXT("App", "kFileNew", "&New");
+inline constexpr Constant kFileQuit = KESTRUNE_TEXT("App", "kFileQuit", "&Quit");
+inline constexpr Constant kEditMenu = KESTRUNE_TEXT("App", "kEditMenu", "&Edit");
+inline constexpr Constant kEditUndo = KESTRUNE_TEXT("App", "kEditUndo", "&Undo");
+inline constexpr Constant kEditRedo = KESTRUNE_TEXT("App", "kEditRedo", "&Redo");
+inline constexpr Constant kEditCut = KESTRUNE_TEXT("App", "kEditCut", "Cu&t");
+inline constexpr Constant kEditCopy = KESTRUNE_TEXT("App", "kEditCopy", "&Copy");
+inline constexpr Constant kEditPaste = KESTRUNE_TEXT("App", "kEditPaste", "&Paste");
+inline constexpr Constant kEditClear = KESTRUNE_TEXT("App", "kEditClear", "&Delete");
+inline constexpr Constant kEditSelectAll = KESTRUNE_TEXT("App", "kEditSelectAll", "Select &All");
+inline constexpr Constant kAppleAbout = KESTRUNE_TEXT("App", "kAppleAbout", "A&bout this App");
 
 // MainWindow
 inline constexpr Constant kHelpButton = KESTRUNE_TEXT("MainWindow", "kHelpButton", "Usage");
@@ -79,6 +79,16 @@ inline constexpr Constant kShowPayoffTip = KESTRUNE_TEXT("MainWindow", "kShowPay
 inline constexpr Constant kHideBelowButton = KESTRUNE_TEXT("MainWindow", "kHideBelowButton", "Hide below");
 inline constexpr Constant kHideBelowTip =
     KESTRUNE_TEXT("MainWindow", "kHideBelowTip", "Hide after selected row.\n(Does not work for multi-line selection)");
+
+// Names that assistive technology reads for controls whose label does not name them.
+inline constexpr Constant kAccBorrowYear = KESTRUNE_TEXT("MainWindow", "kAccBorrowYear", "Borrowing year");
+inline constexpr Constant kAccBorrowMonth = KESTRUNE_TEXT("MainWindow", "kAccBorrowMonth", "Borrowing month");
+inline constexpr Constant kAccBorrowDay = KESTRUNE_TEXT("MainWindow", "kAccBorrowDay", "Borrowing day");
+inline constexpr Constant kAccPayDay = KESTRUNE_TEXT("MainWindow", "kAccPayDay", "Pay day");
+inline constexpr Constant kAccCalendar = KESTRUNE_TEXT("MainWindow", "kAccCalendar", "Calendar");
+inline constexpr Constant kAccDelay = KESTRUNE_TEXT("MainWindow", "kAccDelay", "First payment");
+inline constexpr Constant kAccMethod = KESTRUNE_TEXT("MainWindow", "kAccMethod", "Method");
+inline constexpr Constant kAccTable = KESTRUNE_TEXT("MainWindow", "kAccTable", "Repayment schedule");
 
 // HelpWindow
 inline constexpr Constant kHelpText =
@@ -131,6 +141,10 @@ inline constexpr std::array kAllConstants{kAppName,       kAppName2,
                                           kNewNextTip,    kShowPayoffButton,
                                           kShowPayoffTip, kHideBelowButton,
                                           kHideBelowTip,  kHelpText,
+                                          kAccBorrowYear, kAccBorrowMonth,
+                                          kAccBorrowDay,  kAccPayDay,
+                                          kAccCalendar,   kAccDelay,
+                                          kAccMethod,     kAccTable,
                                           kCloseBtn};
 
 } // namespace strings

@@ -54,6 +54,15 @@ void checkEveryTextShowsWhole(const char* language) {
         expectWhole(field);
     }
     for (const auto& [index, label] : w->LabelText) expectWhole(label);
+    // Fields and buttons keep their distance from their neighbours on the line.
+    const auto controls = w->centralWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (const QWidget* a : controls)
+        for (const QWidget* b : controls) {
+            const bool labels = qobject_cast<const QLabel*>(a) || qobject_cast<const QLabel*>(b);
+            const QRect widened = a->geometry().adjusted(-1, 0, 1, 0);
+            EXPECT_TRUE(a == b || labels || !a->isVisible() || !widened.intersects(b->geometry()))
+                << a->objectName().toStdString() << " and " << b->objectName().toStdString();
+        }
 
     // Every cell of a loan of 100,000,000 in 1, 10 and 144 payments, both methods.
     w->RekiKind->setMenuValue(calendar::kWestern);

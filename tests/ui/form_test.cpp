@@ -45,6 +45,7 @@ TEST_F(FormTest, EachFieldCorrectsItsTextAndRecalculatesWhenItChanged) {
         {"Kaisu", "250000", "100000", 1, 100000, table::kPrincipal, "1,000"},
         {"Shokai", "10", "10", 1, 135, table::kNumber, "010"},
         {"Shokai", "2.9", "2.9", 1, 143, table::kNumber, "002"},
+        {"Shokai", "144", "144", 1, 1, table::kNumber, "144"},
         {"Shokai", "145", "1", 1, 144, table::kNumber, "001"}, // outside the count: back to 1
         {"Shokai", "-3", "1", 1, 144, table::kNumber, "001"},
         {"StartM", "13", "12", 1, 144, table::kDate, "21.01.08"},

@@ -4,9 +4,14 @@
 #include "shell/aboutwindow.h"
 #include "shell/helpwindow.h"
 
+#include <QAccessible>
 #include <QClipboard>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <functional>
+#include <optional>
 
 namespace {
 
@@ -91,6 +96,53 @@ TEST_F(WindowTest, NewAndQuitWorkFromTheHelpAndAboutWindows) {
     showActive(help);
     QTest::keyClick(help, Qt::Key_Q, Qt::ControlModifier);
     EXPECT_EQ(quit.count(), 1) << "Ctrl+Q in the help window";
+}
+
+// Every control the keyboard reaches, and every figure, has a name of its own for a screen
+// reader: not empty, and for a control with a value or a figure, not merely what it shows. A combo
+// box is named on Linux by its label (the relation a screen reader follows), as Qt has it.
+void expectNamedForAssistiveTechnology(QWidget* window, const std::string& where) {
+    std::function<void(QAccessibleInterface*)> walk = [&](QAccessibleInterface* node) {
+        for (int i = 0; i < node->childCount(); ++i) {
+            QAccessibleInterface* child = node->child(i);
+            if (!child || child->state().invisible) continue;
+            QString name = child->text(QAccessible::Name);
+            const auto labels = child->relations(QAccessible::Label);
+            if (child->role() == QAccessible::ComboBox && !labels.isEmpty())
+                name = labels.front().first->text(QAccessible::Name);
+            const auto* label = qobject_cast<QLabel*>(child->object());
+            const QString shown = label ? label->text() : child->text(QAccessible::Value);
+            const bool figure = child->object()->objectName() == "SelNum" || child->object()->objectName() == "Kansai";
+            const std::string what =
+                where + " " + child->object()->objectName().toStdString() + " \"" + name.toStdString() + "\"";
+            if (child->state().focusable || figure) {
+                EXPECT_FALSE(name.isEmpty()) << what;
+            }
+            if ((child->state().focusable && !label && child->role() != QAccessible::Table) || figure) {
+                EXPECT_NE(name, shown) << what;
+            }
+            if (child->role() != QAccessible::Table) walk(child);
+        }
+    };
+    walk(QAccessible::queryAccessibleInterface(window));
+}
+
+TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
+    for (const bool japanese : {false, true}) {
+        std::optional<Japanese> translation;
+        if (japanese) translation.emplace();
+        auto* w = new MainWindow;
+        showActive(w);
+        w->HelpBtn->click();
+        const std::string language = japanese ? "Japanese" : "English";
+        expectNamedForAssistiveTechnology(w, language + " main window");
+        expectNamedForAssistiveTechnology(shell::App::instance()->helpWindow(), language + " help window");
+        expectNamedForAssistiveTechnology(shell::App::instance()->aboutWindow(), language + " About window");
+        EXPECT_EQ(w->GankinField->accessibleName(), japanese ? "元金" : "Principal");
+        EXPECT_EQ(w->RekiKind->accessibleDescription(), japanese ? "令和" : "Reiwa");
+        EXPECT_EQ(w->menuBar()->actions().at(0)->text(), japanese ? "ファイル(&F)" : "&File");
+        closeAllWindows();
+    }
 }
 
 } // namespace

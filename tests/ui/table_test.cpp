@@ -102,10 +102,12 @@ TEST_F(TableTest, HideBelowCountsPaymentsAndShowUntilPayOffBringsThemBack) {
     EXPECT_EQ(rows(), 140);
     EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{0}) << "the first selected row stays selected";
     typeAndLeave(w->Shokai, "13");
-    clickRow(0);
-    w->BevelDelBelow->click();
-    typeAndLeave(w->Shokai, "14"); // past the cut: the cut goes
-    EXPECT_EQ(rows(), 131);
+    clickRow(1);
+    w->BevelDelBelow->click(); // payments 13 and 14
+    typeAndLeave(w->Shokai, "14");
+    EXPECT_EQ(rows(), 1) << "a first row at the cut keeps it";
+    typeAndLeave(w->Shokai, "15");
+    EXPECT_EQ(rows(), 130) << "a first row past the cut drops it";
 }
 
 TEST_F(TableTest, RecombinationMovesTheRowsBelowToANewWindow) {
