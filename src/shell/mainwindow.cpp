@@ -238,6 +238,7 @@ void MainWindow::nameControls() {
     auto* methodLabel = new QLabel(text(strings::kAccMethod), KindPopup->parentWidget());
     methodLabel->setBuddy(KindPopup);
     methodLabel->hide();
+    SelNum->setAccessibleDescription(SelNum->text());
     LabelText[11]->setBuddy(StartY);
     LabelText[3]->setBuddy(StartDX);
 }
