@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The calculation from the form's texts to the payments, and on to the rows as the table shows them.
 #include "engine/calculation.h"
+#include "engine/plan.h"
 #include "table/rows.h"
 
 #include <benchmark/benchmark.h>
@@ -34,5 +35,30 @@ void Payments(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(Payments)->RangeMultiplier(10)->Range(100, 100'000)->Complexity(benchmark::oN)->Unit(benchmark::kMillisecond);
+
+// A plan of 100,000 payments with 1,000 events: prepayments (some recurring), rate changes and
+// fees, with its totals, savings and years.
+void PlanWithEvents(benchmark::State& state) {
+    engine::LoanForm form = loan(100'000, state.range(0) != 0);
+    form.principal = "9,000,000,000,000";
+    std::vector<engine::PlanEvent> events;
+    for (std::int64_t i = 0; i < 1000; ++i) {
+        const std::int64_t n = 1 + i * 97;
+        if (i % 3 == 0) events.push_back({engine::EventKind::RateChange, n, 0.01 + 0.001 * double(i % 7)});
+        if (i % 3 == 1) events.push_back({engine::EventKind::Fee, n, 1000.0});
+        if (i % 3 == 2)
+            events.push_back({engine::EventKind::Prepay, n, 1000.0,
+                              i % 2 ? engine::PrepayMode::Reduce : engine::PrepayMode::Shorten, i % 10 ? 0 : 1000});
+    }
+    for (auto _ : state) {
+        const auto plan = engine::calculate(form, {}, events);
+        const auto base = engine::calculate(form);
+        benchmark::DoNotOptimize(engine::planTotals(plan.payments));
+        benchmark::DoNotOptimize(engine::planSavings(base.payments, plan.payments));
+        benchmark::DoNotOptimize(engine::yearlyFigures(plan.payments));
+        state.counters["payments"] = static_cast<double>(plan.payments.size());
+    }
+}
+BENCHMARK(PlanWithEvents)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -50,6 +50,29 @@ TEST(ScheduleTool, PrintsTheTableInEachFormat) {
     EXPECT_EQ(run("-h").out, run("--help").out);
 }
 
+TEST(ScheduleTool, PlansWithEventsTotalsAndYears) {
+    const std::string loan = "--era western --year 2020 --month 3 --day 15 --principal 30,000,000 --rate 1.5 "
+                             "--times 420 --method flat ";
+    const Result plan = run(loan + "--prepay 60:1,000,000:every=60 --totals --last 1");
+    EXPECT_NE(plan.out.find("No.  Repayment  Amount  Principal  Interest  Prepaid     Balance\n"
+                            "001  20.04.08   91,855     62,286    29,569        0  29,937,714\n"),
+              std::string::npos)
+        << plan.out;
+    EXPECT_NE(plan.out.find("\nPayments: 350\n"), std::string::npos) << plan.out;
+    EXPECT_NE(plan.out.find("\nPayments saved: 70 (5 years 10 months)\n"), std::string::npos) << plan.out;
+    EXPECT_EQ(run(loan + "--events - --totals --last 1", "< /dev/null").out.find("Prepaid"), std::string::npos);
+    const auto file = std::filesystem::temp_directory_path() / "kestrune-events.txt";
+    std::ofstream(file) << "# refinancing\nrate 61 0.9\n\nfee\t61\t330000\n";
+    const Result options = run("--rate-change 61:0.9 --fee=61:330000 --format json --last 0 " + loan);
+    EXPECT_NE(options.out.find("\"savings\": {\"interest saved\": \"2,684,758\""), std::string::npos) << options.out;
+    EXPECT_NE(options.out.find("\"break-even payment\": \"86 (2027 / 5 / 8 )\"}"), std::string::npos);
+    EXPECT_EQ(options.out, run("--format json --last 0 --events " + file.string() + " " + loan).out);
+    EXPECT_EQ(options.out, run("--format json --last 0 --events - " + loan + "< " + file.string()).out);
+    const Result years = run(loan + "--by-year --format csv");
+    EXPECT_EQ(years.out.substr(0, years.out.find('\n')),
+              "Year,Era year,Payments,Amount,Principal,Interest,Prepaid,Fees,Balance\r");
+}
+
 struct StatusCase {
     const char* args;
     int status;
@@ -66,6 +89,8 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--last x", 2, "kestrune-schedule: --last takes a whole number: x\n"},
         {"--frobnicate 1", 2, "kestrune-schedule: unknown option: --frobnicate\n"},
         {"--rate", 2, "kestrune-schedule: missing value for --rate\n"},
+        {"--prepay 145:100", 2, "kestrune-schedule: bad event: payment outside 1 to the count: prepay 145 100\n"},
+        {"--fee 3:-5", 2, "kestrune-schedule: bad event: negative amount: fee 3 -5\n"},
         {"--times 100000 --format csv > /dev/full", 1,
          "kestrune-schedule: cannot write output: No space left on device\n"},
         {">&-", 1, "kestrune-schedule: cannot write output: Bad file descriptor\n"},

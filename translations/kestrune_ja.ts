@@ -330,5 +330,10 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <comment>Repayment schedule</comment>
         <translation>返済予定表</translation>
     </message>
+    <message>
+        <source>kPrepaidHeading</source>
+        <comment>Prepaid</comment>
+        <translation>繰上返済</translation>
+    </message>
 </context>
 </TS>

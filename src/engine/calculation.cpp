@@ -11,9 +11,6 @@ namespace {
 
 using runtime::Val;
 
-// The mean length of a year in days: the daily rate's divisor, whatever years the loan spans.
-constexpr double kDaysInYear = 365.2422;
-
 } // namespace
 
 LoanTerms readLoanForm(const LoanForm& form) {
@@ -33,21 +30,18 @@ LoanRecord settleLoan(const LoanTerms& terms) {
     record.flatPayment = terms.flatPayment;
     record.principal = terms.principal;
     record.paymentCount = terms.paymentCount;
+    record.annualRate = terms.annualRate;
     record.dailyRate = terms.annualRate / kDaysInYear;
     record.payDay = terms.dateLine.payDay;
     record.dates = calendar::loanDates(terms.dateLine, terms.paymentCount);
-    const double monthly = terms.annualRate / 12.0;
-    const auto n = static_cast<double>(terms.paymentCount);
-    if (terms.flatPayment) {
-        const double t = runtime::Pow(1.0 + monthly, n);
-        record.fixedPayment = runtime::Round(((t * monthly) * record.principal) / (t - 1.0));
-    } else {
-        record.fixedPrincipal = runtime::Round(record.principal / n);
-    }
+    if (terms.flatPayment)
+        record.fixedPayment = annuityPayment(record.principal, terms.annualRate, terms.paymentCount);
+    else
+        record.fixedPrincipal = runtime::Round(record.principal / static_cast<double>(terms.paymentCount));
     return record;
 }
 
-Calculation calculate(const LoanForm& form, const ListedRange& listed) {
+Calculation calculate(const LoanForm& form, const ListedRange& listed, const std::vector<PlanEvent>& events) {
     Calculation calc;
     calc.terms = readLoanForm(form);
     if (calc.terms.zeroInput) {
@@ -57,7 +51,7 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed) {
     calc.record = settleLoan(calc.terms);
     const double fixedAmount = calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal;
     const bool exact = isExactAmount(calc.record.principal) && isExactAmount(fixedAmount);
-    auto payments = exact ? walkSchedule(calc.record, listed) : std::nullopt;
+    auto payments = exact ? walkSchedule(calc.record, listed, events) : std::nullopt;
     if (!payments) {
         calc.refusal = Refusal::OutOfRange;
         return calc;

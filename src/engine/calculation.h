@@ -25,6 +25,7 @@ struct Calculation {
     std::vector<Payment> payments;
 };
 
-Calculation calculate(const LoanForm& form, const ListedRange& listed = {});
+// With events, the calculation of a plan; refused as without.
+Calculation calculate(const LoanForm& form, const ListedRange& listed = {}, const std::vector<PlanEvent>& events = {});
 
 } // namespace engine

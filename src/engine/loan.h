@@ -10,6 +10,9 @@
 
 namespace engine {
 
+// The mean length of a year in days: the daily rate's divisor, whatever years the loan spans.
+constexpr double kDaysInYear = 365.2422;
+
 // A count of payments above this acts as this many, in the pay-off date as in the schedule.
 constexpr std::int64_t kMaxPayments = 100'000;
 
@@ -55,7 +58,8 @@ struct LoanRecord {
     double fixedPayment = 0.0;   // flat payment: principal and interest of each payment
     double fixedPrincipal = 0.0; // equal principal: the principal of each payment
     double principal = 0.0;
-    double dailyRate = 0.0; // interest per day, as a fraction of the balance
+    double annualRate = 0.0; // a fraction
+    double dailyRate = 0.0;  // interest per day, as a fraction of the balance
     std::int64_t paymentCount = 0;
     std::int64_t payDay = 0; // of each month, as read: beyond a month's length, its last day
     calendar::LoanDates dates;

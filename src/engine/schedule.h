@@ -3,6 +3,7 @@
 // The repayment schedule: the walk of the loan payment by payment, with interest on the actual
 // days of each period, as numbers and dates.
 
+#include "engine/event.h"
 #include "engine/loan.h"
 
 #include <optional>
@@ -10,17 +11,23 @@
 
 namespace engine {
 
+// The flat payment that repays the balance in that many monthly payments at the annual rate.
+double annuityPayment(double balance, double annualRate, std::int64_t payments);
+
 struct Payment {
     std::int64_t number; // from 1
     calendar::Date date;
-    double amount; // principal + interest
+    double amount; // the regular payment: principal + interest
     double principal;
     double interest;
-    double balance; // after this payment
+    double balance;       // after this payment and its prepayment
+    double prepaid = 0.0; // extra principal paid with this payment
+    double fee = 0.0;     // costs paid with this payment
 };
 
-// The payments of the listed range (up to the last payment). Empty optional where an amount of
-// any payment walked is beyond kMaxExactAmount.
-std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed);
+// The payments of the listed range (up to the last payment), with the events of a plan. Empty
+// optional where an amount of any payment walked is beyond kMaxExactAmount.
+std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed,
+                                                 const std::vector<PlanEvent>& events = {});
 
 } // namespace engine

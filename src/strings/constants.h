@@ -80,6 +80,9 @@ inline constexpr Constant kHideBelowButton = KESTRUNE_TEXT("MainWindow", "kHideB
 inline constexpr Constant kHideBelowTip =
     KESTRUNE_TEXT("MainWindow", "kHideBelowTip", "Hide after selected row.\n(Does not work for multi-line selection)");
 
+// The column of extra principal that a plan's rows carry.
+inline constexpr Constant kPrepaidHeading = KESTRUNE_TEXT("MainWindow", "kPrepaidHeading", "Prepaid");
+
 // Names that assistive technology reads for controls whose label does not name them.
 inline constexpr Constant kAccBorrowYear = KESTRUNE_TEXT("MainWindow", "kAccBorrowYear", "Borrowing year");
 inline constexpr Constant kAccBorrowMonth = KESTRUNE_TEXT("MainWindow", "kAccBorrowMonth", "Borrowing month");
@@ -116,35 +119,35 @@ inline constexpr Constant kHelpText =
 // AboutWindow
 inline constexpr Constant kCloseBtn = KESTRUNE_TEXT("AboutWindow", "kCloseBtn", "Close");
 
-inline constexpr std::array kAllConstants{kAppName,       kAppName2,
-                                          kFileMenu,      kFileNew,
-                                          kFileQuit,      kEditMenu,
-                                          kEditUndo,      kEditRedo,
-                                          kEditCut,       kEditCopy,
-                                          kEditPaste,     kEditClear,
-                                          kEditSelectAll, kAppleAbout,
-                                          kHelpButton,    kLabelText0,
-                                          kLabelText1,    kLabelText2,
-                                          kLabelText3,    kLabelText7,
-                                          kLabelText8,    kLabelText9,
-                                          kLabel9tip,     kLabelText10,
-                                          kLabelText11,   kYear,
-                                          kMonth,         kDay,
-                                          kDay_th,        kRekiCombination,
-                                          kRekiXst,       kRekiS,
-                                          kRekiH,         kRekiR,
-                                          kNext,          k2After,
-                                          k3After,        kSelectAll,
-                                          kDeselectAll,   kGankin,
-                                          kGanri,         kCulc,
-                                          kHeader,        kNewNext,
-                                          kNewNextTip,    kShowPayoffButton,
-                                          kShowPayoffTip, kHideBelowButton,
-                                          kHideBelowTip,  kHelpText,
-                                          kAccBorrowYear, kAccBorrowMonth,
-                                          kAccBorrowDay,  kAccPayDay,
-                                          kAccCalendar,   kAccDelay,
-                                          kAccMethod,     kAccTable,
-                                          kCloseBtn};
+inline constexpr std::array kAllConstants{kAppName,        kAppName2,
+                                          kFileMenu,       kFileNew,
+                                          kFileQuit,       kEditMenu,
+                                          kEditUndo,       kEditRedo,
+                                          kEditCut,        kEditCopy,
+                                          kEditPaste,      kEditClear,
+                                          kEditSelectAll,  kAppleAbout,
+                                          kHelpButton,     kLabelText0,
+                                          kLabelText1,     kLabelText2,
+                                          kLabelText3,     kLabelText7,
+                                          kLabelText8,     kLabelText9,
+                                          kLabel9tip,      kLabelText10,
+                                          kLabelText11,    kYear,
+                                          kMonth,          kDay,
+                                          kDay_th,         kRekiCombination,
+                                          kRekiXst,        kRekiS,
+                                          kRekiH,          kRekiR,
+                                          kNext,           k2After,
+                                          k3After,         kSelectAll,
+                                          kDeselectAll,    kGankin,
+                                          kGanri,          kCulc,
+                                          kHeader,         kNewNext,
+                                          kNewNextTip,     kShowPayoffButton,
+                                          kShowPayoffTip,  kHideBelowButton,
+                                          kHideBelowTip,   kHelpText,
+                                          kPrepaidHeading, kAccBorrowYear,
+                                          kAccBorrowMonth, kAccBorrowDay,
+                                          kAccPayDay,      kAccCalendar,
+                                          kAccDelay,       kAccMethod,
+                                          kAccTable,       kCloseBtn};
 
 } // namespace strings

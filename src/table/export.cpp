@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/export.h"
 
+#include <functional>
+
+#include <functional>
+
 namespace table {
 namespace {
 
@@ -28,9 +32,9 @@ std::string htmlEscaped(const std::string& cell) {
     return escaped;
 }
 
-template <typename Cell>
-std::string joined(const std::vector<table::Row>& rows, Cell cell, std::string_view separator,
-                   std::string_view rowStart, std::string_view rowEnd) {
+template <typename Rows, typename Cell>
+std::string joined(const Rows& rows, Cell cell, std::string_view separator, std::string_view rowStart,
+                   std::string_view rowEnd) {
     std::string text;
     for (const auto& row : rows) {
         text += rowStart;
@@ -45,12 +49,10 @@ std::string joined(const std::vector<table::Row>& rows, Cell cell, std::string_v
 
 } // namespace
 
-std::string toTsv(const std::vector<table::Row>& rows) {
-    return joined(
-        rows, [](const std::string& cell) { return cell; }, "\t", "", "\n");
-}
-
-std::string toCsv(const std::vector<table::Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
+std::string toTsv(const std::vector<Row>& rows) { return joined(rows, std::identity{}, "\t", "", "\n"); }
+std::string toTsv(const std::vector<Cells>& rows) { return joined(rows, std::identity{}, "\t", "", "\n"); }
+std::string toCsv(const std::vector<Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
+std::string toCsv(const std::vector<Cells>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
 
 std::string toHtml(const std::vector<table::Row>& rows) {
     return "<table>" +

@@ -39,4 +39,15 @@ std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era,
     return rows;
 }
 
+std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
+    const std::vector<Row> rows = rowTexts(payments, era, payDay);
+    std::vector<Cells> cells;
+    cells.reserve(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        Cells& row = cells.emplace_back(rows[i].begin(), rows[i].end());
+        row.insert(row.begin() + kBalance, Format(payments[i].prepaid, kAmountMask));
+    }
+    return cells;
+}
+
 } // namespace table

@@ -16,6 +16,8 @@ namespace table {
 // No., Repayment, Amount, Principal, Interest, Balance.
 constexpr std::size_t kColumnCount = 6;
 using Row = std::array<std::string, kColumnCount>;
+// A row of any width: a plan's rows have a Prepaid column after Interest.
+using Cells = std::vector<std::string>;
 
 enum Column : std::size_t { kNumber, kDate, kAmount, kPrincipal, kInterest, kBalance };
 
@@ -25,5 +27,7 @@ inline constexpr std::string_view kAmountMask = "###,###,###,###";
 // One row a payment. A date's year shows under `era`, or under the era that followed it where the
 // date (tested with `payDay`) is past that era's end.
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
+// The same with the prepaid amount of each payment after its interest.
+std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
 
 } // namespace table

@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     const calendar::Date today(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
 
     std::ostringstream out;
-    const int status = tools::runScheduleCommand({argv + 1, argv + argc}, today, out, std::cerr);
+    const int status = tools::runScheduleCommand({argv + 1, argv + argc}, today, std::cin, out, std::cerr);
     if (!writeAll(STDOUT_FILENO, out.view())) {
         // A reader that stopped reading (head) wants no more and no complaint.
         if (errno != EPIPE) std::cerr << "kestrune-schedule: cannot write output: " << std::strerror(errno) << '\n';

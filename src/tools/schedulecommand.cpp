@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/schedulecommand.h"
 
+#include "calendar/era.h"
 #include "engine/calculation.h"
+#include "engine/plan.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "strings/constants.h"
@@ -9,7 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
+#include <fstream>
 #include <map>
 #include <optional>
 
@@ -36,6 +40,17 @@ them into the form. No field corrections are applied. Each option is given as
   --delay DELAY      next, 2after or 3after: which pay day comes first (default next)
   --method METHOD    flat (flat payment) or equal (equal principal, the default)
   --format FORMAT    table (default), tsv, csv or json
+  --prepay N:AMOUNT[:shorten|reduce][:every=M]
+                     with payment N, AMOUNT more principal; shorten (the default) keeps the
+                     payment and ends the loan earlier, reduce keeps the count and lowers the
+                     payment; every=M repeats it every M payments
+  --rate-change N:RATE  the annual rate RATE from the period that ends with payment N
+  --fee N:AMOUNT     a cost paid with payment N (a refinancing or prepayment fee)
+  --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
+                     "fee 61 330000"; blank lines and lines from # are skipped
+  --totals           after the table, the totals and, with events, the savings against the
+                     same loan without them
+  --by-year          the figures of each calendar year instead of the rows
   -h, --help         print this text
 
 Exit status: 0 with the table printed; 1 when the calculation is refused (a zero principal,
@@ -68,10 +83,9 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
     return n;
 }
 
-table::Row headerRow() {
-    table::Row header;
-    const auto headings = runtime::Split(strings::kHeader.defaultText, "\t");
-    std::copy_n(headings.begin(), std::min(headings.size(), header.size()), header.begin());
+table::Cells headerRow(bool withPrepaid) {
+    table::Cells header = runtime::Split(strings::kHeader.defaultText, "\t");
+    if (withPrepaid) header.insert(header.begin() + table::kBalance, std::string(strings::kPrepaidHeading.defaultText));
     return header;
 }
 
@@ -89,24 +103,30 @@ std::string jsonString(std::string_view text) {
     return quoted + '"';
 }
 
-std::string jsonArray(const table::Row& cells) {
+std::string jsonArray(const table::Cells& cells) {
     std::string text = "[";
     for (std::size_t i = 0; i < cells.size(); ++i) text += (i > 0 ? ", " : "") + jsonString(cells[i]);
     return text + "]";
 }
 
-void printTable(const std::string& payoff, const std::vector<table::Row>& rows, std::ostream& out) {
-    out << strings::kLabelText10.defaultText << ' ' << payoff << "\n\n";
-    const table::Row header = headerRow();
-    std::array<std::size_t, table::kColumnCount> width{};
+std::string jsonArrays(const std::vector<table::Cells>& rows) {
+    std::string text = "[";
+    for (std::size_t i = 0; i < rows.size(); ++i) text += (i > 0 ? ", " : "") + jsonArray(rows[i]);
+    return text + "]";
+}
+
+// Columns padded to their widest cell: text columns (before `firstAmount`) to the left, amounts to the right.
+void printAligned(const table::Cells& header, const std::vector<table::Cells>& rows, std::size_t firstAmount,
+                  std::ostream& out) {
+    std::vector<std::size_t> width(header.size());
     for (std::size_t c = 0; c < width.size(); ++c) {
         width[c] = header[c].size();
         for (const auto& row : rows) width[c] = std::max(width[c], row[c].size());
     }
-    const auto printRow = [&](const table::Row& row) {
+    const auto printRow = [&](const table::Cells& row) {
         for (std::size_t c = 0; c < row.size(); ++c) {
             const std::string pad(width[c] - row[c].size(), ' ');
-            out << (c > 0 ? "  " : "") << (c < table::kAmount ? row[c] + pad : pad + row[c]);
+            out << (c > 0 ? "  " : "") << (c < firstAmount ? row[c] + pad : pad + row[c]);
         }
         out << '\n';
     };
@@ -114,10 +134,61 @@ void printTable(const std::string& payoff, const std::vector<table::Row>& rows, 
     for (const auto& row : rows) printRow(row);
 }
 
-void printJson(const std::string& payoff, const std::vector<table::Row>& rows, std::ostream& out) {
-    out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(headerRow()) << ", \"rows\": [";
-    for (std::size_t i = 0; i < rows.size(); ++i) out << (i > 0 ? ", " : "") << jsonArray(rows[i]);
-    out << "]}\n";
+std::string amount(double value) { return runtime::Format(value, table::kAmountMask); }
+
+// The lines of the totals and, for a plan with events, of its savings.
+std::vector<std::pair<std::string, std::string>> totalLines(const engine::PlanTotals& totals,
+                                                            const std::optional<engine::PlanSavings>& savings,
+                                                            const std::vector<engine::Payment>& payments, int era) {
+    const auto date = [era](const calendar::Date& d) { return calendar::payoffText(d, era, {}); };
+    std::vector<std::pair<std::string, std::string>> lines{{"payments", runtime::Str(totals.payments)},
+                                                           {"paid", amount(totals.paid)},
+                                                           {"principal", amount(totals.principal)},
+                                                           {"interest", amount(totals.interest)},
+                                                           {"prepaid", amount(totals.prepaid)},
+                                                           {"fees", amount(totals.fees)},
+                                                           {"payoff", date(totals.payoff)}};
+    if (!savings) return lines;
+    const std::int64_t saved = savings->paymentsSaved;
+    lines.insert(lines.end(), {{"interest saved", amount(savings->interestSaved)},
+                               {"payments saved", runtime::Str(saved) + " (" + runtime::Str(saved / 12) + " years " +
+                                                      runtime::Str(saved % 12) + " months)"},
+                               {"net saving", amount(savings->netSaving)}});
+    std::string breakEven = "none";
+    if (savings->breakEven && *savings->breakEven <= static_cast<std::int64_t>(payments.size()))
+        breakEven = runtime::Str(*savings->breakEven) + " (" +
+                    date(payments[static_cast<std::size_t>(*savings->breakEven - 1)].date) + ")";
+    else if (savings->breakEven)
+        breakEven = runtime::Str(*savings->breakEven);
+    lines.emplace_back("break-even payment", breakEven);
+    return lines;
+}
+
+// One row a calendar year: the year, as the date column shows its era, and its figures.
+std::vector<table::Cells> yearRows(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
+    const calendar::PayoffWords words;
+    std::vector<table::Cells> rows;
+    for (const engine::YearFigures& y : engine::yearlyFigures(payments)) {
+        const auto shown = calendar::displayedEraYear(era, y.year, y.lastPayment.Month(), payDay);
+        const std::string eraYear =
+            shown.era == calendar::kWestern
+                ? runtime::Str(shown.year)
+                : words.eraNames[static_cast<std::size_t>(shown.era)] + " " + runtime::Str(shown.year);
+        rows.push_back({runtime::Str(y.year), eraYear, runtime::Str(y.payments), amount(y.amount), amount(y.principal),
+                        amount(y.interest), amount(y.prepaid), amount(y.fees), amount(y.balance)});
+    }
+    return rows;
+}
+
+const table::Cells kYearHeader{"Year",     "Era year", "Payments", "Amount", "Principal",
+                               "Interest", "Prepaid",  "Fees",     "Balance"};
+
+// "N:AMOUNT[:shorten|reduce][:every=M]" and the like as an event line ("prepay N AMOUNT ...").
+std::string eventLineOf(const std::string& kind, const std::string& value) {
+    std::string line = kind;
+    for (const std::string& part : runtime::Split(value, ":"))
+        line += " " + (part.starts_with("every=") ? "every " + part.substr(6) : part);
+    return line;
 }
 
 int usageError(std::ostream& err, const std::string& problem) {
@@ -127,8 +198,8 @@ int usageError(std::ostream& err, const std::string& problem) {
 
 } // namespace
 
-int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
-                       std::ostream& err) {
+int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::istream& in,
+                       std::ostream& out, std::ostream& err) {
     engine::LoanForm form;
     form.date.month = runtime::Str(today.Month());
     form.date.day = runtime::Str(today.Day());
@@ -136,6 +207,10 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     std::optional<std::string> year;
     int format = 0;
     int method = 1;
+    bool showTotals = false, byYear = false;
+    std::vector<std::string> eventLines;
+    const std::map<std::string, std::string> eventKinds{
+        {"--prepay", "prepay"}, {"--rate-change", "rate"}, {"--fee", "fee"}};
 
     const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
                                                     {"--times", &form.times},         {"--month", &form.date.month},
@@ -154,8 +229,13 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         // "--option value" or "--option=value".
         const auto equals = args[i].starts_with("--") ? args[i].find('=') : std::string::npos;
         const std::string option = args[i].substr(0, equals);
+        if (option == "--totals" || option == "--by-year") {
+            (option == "--totals" ? showTotals : byYear) = true;
+            continue;
+        }
         const bool known = texts.contains(option) || choices.contains(option) || option == "--year" ||
-                           option == "--first" || option == "--last";
+                           option == "--first" || option == "--last" || eventKinds.contains(option) ||
+                           option == "--events";
         if (!known) return usageError(err, "unknown option: " + option);
         if (equals == std::string::npos && i + 1 >= args.size()) return usageError(err, "missing value for " + option);
         const std::string value = equals == std::string::npos ? args[++i] : args[i].substr(equals + 1);
@@ -167,6 +247,17 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
             const auto it = std::find(names->begin(), names->end(), value);
             if (it == names->end()) return usageError(err, "bad value for " + option + ": " + value);
             *target = static_cast<int>(it - names->begin());
+        } else if (const auto kind = eventKinds.find(option); kind != eventKinds.end()) {
+            eventLines.push_back(eventLineOf(kind->second, value));
+        } else if (option == "--events") {
+            std::ifstream file;
+            if (value != "-") file.open(value);
+            if (value != "-" && !file) return usageError(err, "cannot read events from " + value);
+            std::istream& lines = value == "-" ? in : file;
+            for (std::string line; std::getline(lines, line);) {
+                const auto start = line.find_first_not_of(" \t\r");
+                if (start != std::string::npos && line[start] != '#') eventLines.push_back(line);
+            }
         } else if (option == "--year") {
             year = value;
         } else if (option == "--first") {
@@ -181,7 +272,16 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     form.date.year = year ? *year : runtime::Str(calendar::yearInEra(form.era, today.Year()));
     form.flatPayment = method == 0;
 
-    const engine::Calculation calc = engine::calculate(form, listed);
+    std::vector<engine::PlanEvent> events;
+    for (const std::string& line : eventLines) {
+        const auto reading = engine::readEvent(line, engine::readLoanForm(form).paymentCount);
+        if (!reading.event) return usageError(err, "bad event: " + reading.error);
+        events.push_back(*reading.event);
+    }
+    const bool plan = !events.empty() || showTotals || byYear;
+
+    // A plan counts all its payments, whatever rows are listed.
+    const engine::Calculation calc = engine::calculate(form, plan ? engine::ListedRange{} : listed, events);
     if (calc.refusal == engine::Refusal::ZeroInput) {
         err << "principal, rate and count must be non-zero\n";
         return 1;
@@ -190,13 +290,62 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         err << "amounts out of range\n";
         return 1;
     }
-    const std::string payoff = calendar::payoffText(calc.record.dates.payoff, form.era, {});
-    const auto rows = table::rowTexts(calc.payments, calc.terms.dateLine.era, calc.terms.dateLine.payDay);
+    const int era = calc.terms.dateLine.era;
+    const std::int64_t payDay = calc.terms.dateLine.payDay;
+    std::vector<engine::Payment> listedPayments;
+    for (const engine::Payment& p : calc.payments)
+        if (p.number >= listed.first && (listed.last < 0 || p.number <= listed.last)) listedPayments.push_back(p);
+    const bool withPrepaid = !events.empty();
+    std::vector<table::Cells> rows;
+    if (withPrepaid) {
+        rows = table::planRowTexts(listedPayments, era, payDay);
+    } else {
+        for (const table::Row& row : table::rowTexts(plan ? listedPayments : calc.payments, era, payDay))
+            rows.emplace_back(row.begin(), row.end());
+    }
+    const table::Cells header = byYear ? kYearHeader : headerRow(withPrepaid);
+    if (byYear) rows = yearRows(calc.payments, era, payDay);
+
+    const engine::PlanTotals totals = engine::planTotals(calc.payments);
+    std::optional<engine::PlanSavings> savings;
+    if (!events.empty()) savings = engine::planSavings(engine::calculate(form).payments, calc.payments);
+    const std::string payoff = calendar::payoffText(
+        withPrepaid && !calc.payments.empty() ? totals.payoff : calc.record.dates.payoff, form.era, {});
+    const auto lines = totalLines(totals, savings, calc.payments, form.era);
+
     switch (format) {
-    case 0: printTable(payoff, rows, out); break;
-    case 1: out << table::toTsv({headerRow()}) << table::toTsv(rows); break;
-    case 2: out << table::toCsv({headerRow()}) << table::toCsv(rows); break;
-    default: printJson(payoff, rows, out);
+    case 0:
+        if (!byYear) out << strings::kLabelText10.defaultText << ' ' << payoff << "\n\n";
+        printAligned(header, rows, byYear ? std::size_t{2} : std::size_t{table::kAmount}, out);
+        if (showTotals) {
+            out << '\n';
+            for (auto [name, value] : lines) {
+                name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+                out << name << ": " << value << '\n';
+            }
+        }
+        break;
+    case 1: out << table::toTsv({header}) << table::toTsv(rows); break;
+    case 2: out << table::toCsv({header}) << table::toCsv(rows); break;
+    default:
+        out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(header)
+            << ", \"rows\": " << jsonArrays(byYear ? std::vector<table::Cells>{} : rows);
+        // The first seven lines are the totals, those after them the savings.
+        const auto object = [&lines](std::size_t from, std::size_t to) {
+            std::string text = "{";
+            for (std::size_t i = from; i < to; ++i)
+                text += (i > from ? ", " : "") + jsonString(lines[i].first) + ": " + jsonString(lines[i].second);
+            return text + "}";
+        };
+        if (plan) out << ", \"totals\": " << object(0, 7);
+        if (savings) out << ", \"savings\": " << object(7, lines.size());
+        if (!events.empty()) {
+            table::Cells read;
+            for (const auto& event : events) read.push_back(engine::eventLine(event));
+            out << ", \"events\": " << jsonArray(read);
+        }
+        if (byYear) out << ", \"years\": " << jsonArrays(rows);
+        out << "}\n";
     }
     return 0;
 }

@@ -5,13 +5,14 @@
 
 #include "calendar/date.h"
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
 
 namespace tools {
 
-int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::ostream& out,
-                       std::ostream& err);
+int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::istream& in,
+                       std::ostream& out, std::ostream& err);
 
 } // namespace tools

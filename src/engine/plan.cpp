@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/plan.h"
+
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+#include <charconv>
+#include <cmath>
+#include <sstream>
+
+namespace engine {
+namespace {
+
+// A whole token as a number, commas allowed as thousands separators; none where any of it is not.
+std::optional<double> number(std::string_view token) {
+    const std::string plain = runtime::withoutCommas(token);
+    double value = 0.0;
+    const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    if (plain.empty() || error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+std::optional<std::int64_t> wholeNumber(std::string_view token) {
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), value);
+    if (token.empty() || error != std::errc{} || end != token.data() + token.size()) return std::nullopt;
+    return value;
+}
+
+} // namespace
+
+EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
+    std::vector<std::string> words;
+    std::istringstream in{std::string(line)};
+    for (std::string word; in >> word;) words.push_back(word);
+    const auto fail = [&line](const std::string& why) { return EventReading{std::nullopt, why + ": " + std::string(line)}; };
+    if (words.size() < 3) return fail("not an event");
+
+    PlanEvent event;
+    if (words[0] == "prepay")
+        event.kind = EventKind::Prepay;
+    else if (words[0] == "rate")
+        event.kind = EventKind::RateChange;
+    else if (words[0] == "fee")
+        event.kind = EventKind::Fee;
+    else
+        return fail("not an event");
+    const auto payment = wholeNumber(words[1]);
+    if (!payment || *payment < 1 || *payment > paymentCount) return fail("payment outside 1 to the count");
+    event.payment = *payment;
+    const auto value = number(words[2]);
+    if (!value) return fail("not a number");
+    if (*value < 0) return fail("negative amount");
+    event.value = *value;
+
+    std::size_t next = 3;
+    if (event.kind == EventKind::Prepay && next < words.size() && (words[next] == "shorten" || words[next] == "reduce"))
+        event.mode = words[next++] == "reduce" ? PrepayMode::Reduce : PrepayMode::Shorten;
+    if (event.kind == EventKind::Prepay && next + 1 < words.size() && words[next] == "every") {
+        const auto every = wholeNumber(words[next + 1]);
+        if (!every || *every < 1) return fail("every takes a count of payments");
+        event.every = *every;
+        next += 2;
+    }
+    if (next != words.size()) return fail("not an event");
+    return {event, ""};
+}
+
+std::string eventLine(const PlanEvent& event) {
+    const char* kinds[] = {"rate", "fee", "prepay"};
+    std::string line = std::string(kinds[static_cast<int>(event.kind)]) + " " + runtime::Str(event.payment) + " " +
+                       runtime::Str(event.value);
+    if (event.kind != EventKind::Prepay) return line;
+    line += event.mode == PrepayMode::Reduce ? " reduce" : " shorten";
+    if (event.every > 0) line += " every " + runtime::Str(event.every);
+    return line;
+}
+
+PlanTotals planTotals(const std::vector<Payment>& payments) {
+    PlanTotals totals;
+    for (const Payment& p : payments) {
+        totals.paid += p.amount + p.prepaid + p.fee;
+        totals.principal += p.principal;
+        totals.interest += p.interest;
+        totals.prepaid += p.prepaid;
+        totals.fees += p.fee;
+    }
+    totals.payments = static_cast<std::int64_t>(payments.size());
+    if (!payments.empty()) totals.payoff = payments.back().date;
+    return totals;
+}
+
+PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::vector<Payment>& plan) {
+    const PlanTotals base = planTotals(withoutEvents), totals = planTotals(plan);
+    PlanSavings savings{base.interest - totals.interest, base.payments - totals.payments,
+                        base.interest - totals.interest - totals.fees, std::nullopt};
+    double saved = 0.0, fees = 0.0;
+    bool feePaid = false;
+    for (std::size_t i = 0; i < std::max(withoutEvents.size(), plan.size()); ++i) {
+        // A payment past a loan's end counts 0.
+        saved += (i < withoutEvents.size() ? withoutEvents[i].interest : 0.0) - (i < plan.size() ? plan[i].interest : 0.0);
+        fees += i < plan.size() ? plan[i].fee : 0.0;
+        feePaid = feePaid || fees > 0.0;
+        if (feePaid && saved >= fees) {
+            savings.breakEven = static_cast<std::int64_t>(i) + 1;
+            break;
+        }
+    }
+    return savings;
+}
+
+std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments) {
+    std::vector<YearFigures> years;
+    for (const Payment& p : payments) {
+        if (years.empty() || years.back().year != p.date.Year()) years.emplace_back().year = p.date.Year();
+        YearFigures& y = years.back();
+        ++y.payments;
+        y.amount += p.amount;
+        y.principal += p.principal;
+        y.interest += p.interest;
+        y.prepaid += p.prepaid;
+        y.fees += p.fee;
+        y.balance = p.balance;
+        y.lastPayment = p.date;
+    }
+    return years;
+}
+
+} // namespace engine
