@@ -34,7 +34,9 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     std::vector<std::string> words;
     std::istringstream in{std::string(line)};
     for (std::string word; in >> word;) words.push_back(word);
-    const auto fail = [&line](const std::string& why) { return EventReading{std::nullopt, why + ": " + std::string(line)}; };
+    const auto fail = [&line](const std::string& why) {
+        return EventReading{std::nullopt, why + ": " + std::string(line)};
+    };
     if (words.size() < 3) return fail("not an event");
 
     PlanEvent event;
@@ -99,7 +101,8 @@ PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::ve
     bool feePaid = false;
     for (std::size_t i = 0; i < std::max(withoutEvents.size(), plan.size()); ++i) {
         // A payment past a loan's end counts 0.
-        saved += (i < withoutEvents.size() ? withoutEvents[i].interest : 0.0) - (i < plan.size() ? plan[i].interest : 0.0);
+        saved +=
+            (i < withoutEvents.size() ? withoutEvents[i].interest : 0.0) - (i < plan.size() ? plan[i].interest : 0.0);
         fees += i < plan.size() ? plan[i].fee : 0.0;
         feePaid = feePaid || fees > 0.0;
         if (feePaid && saved >= fees) {
