@@ -83,6 +83,16 @@ or Flat payment Calculation</comment>
         <comment>A&amp;bout this App</comment>
         <translation>Kestrune について(&amp;B)</translation>
     </message>
+    <message>
+        <source>kPlanMenu</source>
+        <comment>&amp;Plan</comment>
+        <translation>プラン(&amp;P)</translation>
+    </message>
+    <message>
+        <source>kPlanItem</source>
+        <comment>Prepayments and Rate Changes...</comment>
+        <translation>繰上返済と金利変更...</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>
@@ -334,6 +344,94 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kPrepaidHeading</source>
         <comment>Prepaid</comment>
         <translation>繰上返済</translation>
+    </message>
+</context>
+<context>
+    <name>PlanWindow</name>
+    <message>
+        <source>kPlanTitle</source>
+        <comment>Plan: %1, %2 at %3 %, %4 payments</comment>
+        <translation>プラン: %1、%2、年利 %3 %、%4 回</translation>
+    </message>
+    <message>
+        <source>kEventHeader</source>
+        <comment>Payment	Kind	Value	Mode	Every</comment>
+        <translation>回	種類	値	方式	間隔</translation>
+    </message>
+    <message>
+        <source>kEventErrors</source>
+        <comment>	Not an event	The payment is outside the loan	Not a number	The amount is negative	Every takes a count of payments</comment>
+        <translation>	予定として読めません	返済回がローンの範囲外です	数値ではありません	金額が負です	間隔は返済回数で指定します</translation>
+    </message>
+    <message>
+        <source>kAddEvent</source>
+        <comment>&amp;Add</comment>
+        <translation>追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>kRemoveEvent</source>
+        <comment>&amp;Remove</comment>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>kCopySchedule</source>
+        <comment>&amp;Copy Schedule</comment>
+        <translation>返済表をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>kSaveCsv</source>
+        <comment>&amp;Save Schedule as CSV...</comment>
+        <translation>返済表を CSV で保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>kPrint</source>
+        <comment>P&amp;rint...</comment>
+        <translation>印刷(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>kExportPdf</source>
+        <comment>&amp;Export as PDF...</comment>
+        <translation>PDF に書き出し(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>kTabs</source>
+        <comment>Schedule	Years	Chart</comment>
+        <translation>返済表	年ごと	グラフ</translation>
+    </message>
+    <message>
+        <source>kTotalNames</source>
+        <comment>Payments	Total paid	Total interest	Total prepaid	Fees	Pay off	Interest saved	Payments saved	Net saving	Break-even payment</comment>
+        <translation>返済回数	支払総額	利息総額	繰上返済総額	手数料	完済日	軽減利息	短縮回数	正味の軽減額	損益分岐の回</translation>
+    </message>
+    <message>
+        <source>kYearsMonths</source>
+        <comment>%1 (%2 years %3 months)</comment>
+        <translation>%1（%2 年 %3 か月）</translation>
+    </message>
+    <message>
+        <source>kNone</source>
+        <comment>none</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>kYearHeader</source>
+        <comment>Year	Era year	Payments	Amount	Principal	Interest	Prepaid	Fees	Balance</comment>
+        <translation>西暦	和暦	回数	返済額	元金	利息	繰上返済	手数料	残高</translation>
+    </message>
+    <message>
+        <source>kChartNames</source>
+        <comment>Balance	Balance without events	Interest paid	Interest paid without events	Date	Amount</comment>
+        <translation>残高	予定なしの残高	支払利息累計	予定なしの支払利息累計	日付	金額</translation>
+    </message>
+    <message>
+        <source>kPointer</source>
+        <comment>Payment %1, %2: %3</comment>
+        <translation>%1 回目 %2: %3</translation>
+    </message>
+    <message>
+        <source>kEventsTitle</source>
+        <comment>Prepayments, rate changes and fees</comment>
+        <translation>繰上返済・金利変更・手数料</translation>
     </message>
 </context>
 </TS>

@@ -34,10 +34,16 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     std::vector<std::string> words;
     std::istringstream in{std::string(line)};
     for (std::string word; in >> word;) words.push_back(word);
-    const auto fail = [&line](const std::string& why) {
-        return EventReading{std::nullopt, why + ": " + std::string(line)};
+    const auto fail = [&line](EventError code) {
+        const char* reasons[] = {"",
+                                 "not an event",
+                                 "payment outside 1 to the count",
+                                 "not a number",
+                                 "negative amount",
+                                 "every takes a count of payments"};
+        return EventReading{std::nullopt, code, reasons[static_cast<int>(code)] + (": " + std::string(line))};
     };
-    if (words.size() < 3) return fail("not an event");
+    if (words.size() < 3) return fail(EventError::NotAnEvent);
 
     PlanEvent event;
     if (words[0] == "prepay")
@@ -47,13 +53,13 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     else if (words[0] == "fee")
         event.kind = EventKind::Fee;
     else
-        return fail("not an event");
+        return fail(EventError::NotAnEvent);
     const auto payment = wholeNumber(words[1]);
-    if (!payment || *payment < 1 || *payment > paymentCount) return fail("payment outside 1 to the count");
+    if (!payment || *payment < 1 || *payment > paymentCount) return fail(EventError::PaymentOutside);
     event.payment = *payment;
     const auto value = number(words[2]);
-    if (!value) return fail("not a number");
-    if (*value < 0) return fail("negative amount");
+    if (!value) return fail(EventError::NotANumber);
+    if (*value < 0) return fail(EventError::NegativeAmount);
     event.value = *value;
 
     std::size_t next = 3;
@@ -61,12 +67,12 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
         event.mode = words[next++] == "reduce" ? PrepayMode::Reduce : PrepayMode::Shorten;
     if (event.kind == EventKind::Prepay && next + 1 < words.size() && words[next] == "every") {
         const auto every = wholeNumber(words[next + 1]);
-        if (!every || *every < 1) return fail("every takes a count of payments");
+        if (!every || *every < 1) return fail(EventError::BadEvery);
         event.every = *every;
         next += 2;
     }
-    if (next != words.size()) return fail("not an event");
-    return {event, ""};
+    if (next != words.size()) return fail(EventError::NotAnEvent);
+    return {event, EventError::None, ""};
 }
 
 std::string eventLine(const PlanEvent& event) {

@@ -16,9 +16,11 @@ namespace engine {
 // One event from its line: "prepay 12 1,000,000 reduce every 12", "rate 61 1.5", "fee 61 330000",
 // words apart by blanks or tabs. The event, or why the line is none: a payment outside 1 to the
 // count, a negative amount, or text that is not an event.
+enum class EventError { None, NotAnEvent, PaymentOutside, NotANumber, NegativeAmount, BadEvery };
 struct EventReading {
     std::optional<PlanEvent> event;
-    std::string error;
+    EventError code = EventError::None;
+    std::string error; // the reason in English, with the line
 };
 EventReading readEvent(std::string_view line, std::int64_t paymentCount);
 // The line of an event, as readEvent reads it back.

@@ -15,6 +15,7 @@
 #include "shell/helpwindow.h"
 #include "shell/listbox.h"
 #include "shell/menubar.h"
+#include "shell/planwindow.h"
 #include "strings/lookup.h"
 #include "table/recombination.h"
 #include "table/selectionsum.h"
@@ -27,6 +28,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QTableWidget>
 
 namespace shell {
 
@@ -386,6 +388,15 @@ void MainWindow::CulcButton_Action() {
     } else {
         optSelectBtnState();
     }
+    emit calculated();
+}
+
+void MainWindow::showPlan() {
+    if (!m_plan) m_plan = new PlanWindow(this);
+    m_plan->show();
+    m_plan->raise();
+    m_plan->activateWindow();
+    m_plan->Events->setFocus();
 }
 
 std::optional<engine::Calculation> MainWindow::endEditAndCalculate() {

@@ -49,11 +49,17 @@ class TextField;
 namespace shell {
 
 class ListBox;
+class PlanWindow;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget* parent = nullptr);
+
+    // The Plan window of this window, opened or raised.
+    void showPlan();
+    // The words of the pay-off statement in the user's language.
+    static calendar::PayoffWords payoffWords();
 
     // The form as the calculation reads it, and its inverse: the form written whole into the
     // controls, then calculated once (a new window's form comes this way).
@@ -154,6 +160,10 @@ public:
     void Event_Resized();
     void Event_Close();
 
+signals:
+    // A new table was calculated.
+    void calculated();
+
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -166,8 +176,6 @@ private:
     // Sizes and places the controls so that the widest text each shows fits in the font in use.
     void fitToFont(controls::LockedLayoutWidget* form);
     calendar::DateFieldTexts dateFieldTexts() const;
-    // The words of the pay-off statement in the user's language.
-    static calendar::PayoffWords payoffWords();
     // The era shown by RekiKind, caption and menu value together; the same for the delay.
     void showEra(int era);
     void showDelay(int delay);
@@ -181,6 +189,7 @@ private:
 
     int m_actionRuns = 0;
     QPointer<QWidget> m_lastFocusedControl;
+    QPointer<PlanWindow> m_plan;
 };
 
 } // namespace shell

@@ -59,6 +59,11 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     if (window) QObject::connect(about, &QAction::triggered, window, &MainWindow::_AppleAbout_Action);
     if (!window) return;
 
+    QMenu* planMenu = bar->addMenu(strings::text(strings::kPlanMenu));
+    planMenu->setObjectName("PlanMenu");
+    QAction* plan = addItem(planMenu, "PlanEvents", strings::kPlanItem, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+    QObject::connect(plan, &QAction::triggered, window, &MainWindow::showPlan);
+
     // The menu offers the edit commands the focused control can carry out when it opens. Closed,
     // every command stays enabled, so that its shortcut always reaches the window, which acts
     // only where it can: a state computed at one moment would be stale at the next key press.

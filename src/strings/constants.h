@@ -116,6 +116,38 @@ inline constexpr Constant kHelpText =
                   "period will be displayed. Press this button again to cancel all line specifications. If you "
                   "copy a row with it selected, it can be pasted into spreadsheet software.");
 
+// The Plan window: prepayments, rate changes and fees on the loan of a main window.
+inline constexpr Constant kPlanMenu = KESTRUNE_TEXT("App", "kPlanMenu", "&Plan");
+inline constexpr Constant kPlanItem = KESTRUNE_TEXT("App", "kPlanItem", "Prepayments and Rate Changes...");
+inline constexpr Constant kPlanTitle = KESTRUNE_TEXT("PlanWindow", "kPlanTitle", "Plan: %1, %2 at %3 %, %4 payments");
+inline constexpr Constant kEventHeader =
+    KESTRUNE_TEXT("PlanWindow", "kEventHeader", "Payment\tKind\tValue\tMode\tEvery");
+inline constexpr Constant kEventErrors =
+    KESTRUNE_TEXT("PlanWindow", "kEventErrors",
+                  "\tNot an event\tThe payment is outside the loan\tNot a number\tThe amount is negative\tEvery takes "
+                  "a count of payments");
+inline constexpr Constant kAddEvent = KESTRUNE_TEXT("PlanWindow", "kAddEvent", "&Add");
+inline constexpr Constant kRemoveEvent = KESTRUNE_TEXT("PlanWindow", "kRemoveEvent", "&Remove");
+inline constexpr Constant kCopySchedule = KESTRUNE_TEXT("PlanWindow", "kCopySchedule", "&Copy Schedule");
+inline constexpr Constant kSaveCsv = KESTRUNE_TEXT("PlanWindow", "kSaveCsv", "&Save Schedule as CSV...");
+inline constexpr Constant kPrint = KESTRUNE_TEXT("PlanWindow", "kPrint", "P&rint...");
+inline constexpr Constant kExportPdf = KESTRUNE_TEXT("PlanWindow", "kExportPdf", "&Export as PDF...");
+inline constexpr Constant kTabs = KESTRUNE_TEXT("PlanWindow", "kTabs", "Schedule\tYears\tChart");
+inline constexpr Constant kTotalNames =
+    KESTRUNE_TEXT("PlanWindow", "kTotalNames",
+                  "Payments\tTotal paid\tTotal interest\tTotal prepaid\tFees\tPay off\tInterest saved\tPayments "
+                  "saved\tNet saving\tBreak-even payment");
+inline constexpr Constant kYearsMonths = KESTRUNE_TEXT("PlanWindow", "kYearsMonths", "%1 (%2 years %3 months)");
+inline constexpr Constant kNone = KESTRUNE_TEXT("PlanWindow", "kNone", "none");
+inline constexpr Constant kYearHeader = KESTRUNE_TEXT(
+    "PlanWindow", "kYearHeader", "Year\tEra year\tPayments\tAmount\tPrincipal\tInterest\tPrepaid\tFees\tBalance");
+inline constexpr Constant kChartNames =
+    KESTRUNE_TEXT("PlanWindow", "kChartNames",
+                  "Balance\tBalance without events\tInterest paid\tInterest paid without events\tDate\tAmount");
+inline constexpr Constant kPointer = KESTRUNE_TEXT("PlanWindow", "kPointer", "Payment %1, %2: %3");
+inline constexpr Constant kEventsTitle =
+    KESTRUNE_TEXT("PlanWindow", "kEventsTitle", "Prepayments, rate changes and fees");
+
 // AboutWindow
 inline constexpr Constant kCloseBtn = KESTRUNE_TEXT("AboutWindow", "kCloseBtn", "Close");
 
@@ -148,6 +180,16 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kAccBorrowMonth, kAccBorrowDay,
                                           kAccPayDay,      kAccCalendar,
                                           kAccDelay,       kAccMethod,
-                                          kAccTable,       kCloseBtn};
+                                          kAccTable,       kCloseBtn,
+                                          kPlanMenu,       kPlanItem,
+                                          kPlanTitle,      kEventHeader,
+                                          kEventErrors,    kAddEvent,
+                                          kRemoveEvent,    kCopySchedule,
+                                          kSaveCsv,        kPrint,
+                                          kExportPdf,      kTabs,
+                                          kTotalNames,     kYearsMonths,
+                                          kNone,           kYearHeader,
+                                          kChartNames,     kPointer,
+                                          kEventsTitle};
 
 } // namespace strings

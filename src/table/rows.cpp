@@ -2,6 +2,7 @@
 #include "table/rows.h"
 
 #include "calendar/era.h"
+#include "engine/plan.h"
 #include "runtime/numbers.h"
 
 namespace table {
@@ -48,6 +49,21 @@ std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, in
         row.insert(row.begin() + kBalance, Format(payments[i].prepaid, kAmountMask));
     }
     return cells;
+}
+
+std::vector<Cells> yearRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
+                                const std::array<std::string, calendar::kEraCount>& eraNames) {
+    const auto amount = [](double value) { return Format(value, kAmountMask); };
+    std::vector<Cells> rows;
+    for (const engine::YearFigures& y : engine::yearlyFigures(payments)) {
+        const auto shown = calendar::displayedEraYear(era, y.year, y.lastPayment.Month(), payDay);
+        const std::string eraYear = shown.era == calendar::kWestern ? runtime::Str(shown.year)
+                                                                    : eraNames[static_cast<std::size_t>(shown.era)] +
+                                                                          " " + runtime::Str(shown.year);
+        rows.push_back({runtime::Str(y.year), eraYear, runtime::Str(y.payments), amount(y.amount), amount(y.principal),
+                        amount(y.interest), amount(y.prepaid), amount(y.fees), amount(y.balance)});
+    }
+    return rows;
 }
 
 } // namespace table

@@ -4,6 +4,7 @@
 // the amounts with thousands separators. These texts are also what the table's operations read
 // back: a typed-over cell counts as it reads.
 
+#include "calendar/calendar.h"
 #include "engine/schedule.h"
 
 #include <array>
@@ -29,5 +30,10 @@ inline constexpr std::string_view kAmountMask = "###,###,###,###";
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
 // The same with the prepaid amount of each payment after its interest.
 std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
+
+// One row a calendar year: the Western year, the year as the date column shows its era (with the
+// era's name from `eraNames`), the count of payments and the amounts, the balance at its end.
+std::vector<Cells> yearRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
+                                const std::array<std::string, calendar::kEraCount>& eraNames);
 
 } // namespace table

@@ -164,22 +164,6 @@ std::vector<std::pair<std::string, std::string>> totalLines(const engine::PlanTo
     return lines;
 }
 
-// One row a calendar year: the year, as the date column shows its era, and its figures.
-std::vector<table::Cells> yearRows(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
-    const calendar::PayoffWords words;
-    std::vector<table::Cells> rows;
-    for (const engine::YearFigures& y : engine::yearlyFigures(payments)) {
-        const auto shown = calendar::displayedEraYear(era, y.year, y.lastPayment.Month(), payDay);
-        const std::string eraYear =
-            shown.era == calendar::kWestern
-                ? runtime::Str(shown.year)
-                : words.eraNames[static_cast<std::size_t>(shown.era)] + " " + runtime::Str(shown.year);
-        rows.push_back({runtime::Str(y.year), eraYear, runtime::Str(y.payments), amount(y.amount), amount(y.principal),
-                        amount(y.interest), amount(y.prepaid), amount(y.fees), amount(y.balance)});
-    }
-    return rows;
-}
-
 const table::Cells kYearHeader{"Year",     "Era year", "Payments", "Amount", "Principal",
                                "Interest", "Prepaid",  "Fees",     "Balance"};
 
@@ -304,7 +288,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
             rows.emplace_back(row.begin(), row.end());
     }
     const table::Cells header = byYear ? kYearHeader : headerRow(withPrepaid);
-    if (byYear) rows = yearRows(calc.payments, era, payDay);
+    if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
 
     const engine::PlanTotals totals = engine::planTotals(calc.payments);
     std::optional<engine::PlanSavings> savings;

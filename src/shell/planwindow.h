@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+// The Plan window of a main window: prepayments, rate changes and fees on its loan, with the
+// plan's schedule, totals and savings, the figures of each year and a chart; the schedule can be
+// copied, saved as CSV, printed or exported as PDF. It follows its main window's calculations.
+
+#include "engine/plan.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QChartView;
+class QLabel;
+class QPushButton;
+class QTableView;
+class QTableWidget;
+class QTextDocument;
+
+namespace shell {
+
+class CellsModel;
+class MainWindow;
+
+class PlanWindow : public QWidget {
+    Q_OBJECT
+public:
+    explicit PlanWindow(MainWindow* main);
+
+    // The plan anew from the main window's form and the events of the list.
+    void recalculate();
+    void addEvent();
+    void removeEvents();
+    // The selected events, one line each, and events pasted from lines.
+    void copyEvents() const;
+    void pasteEvents();
+    // The whole schedule, headings and every row, for a spreadsheet.
+    void copySchedule() const;
+    bool saveCsv(const QString& path) const;
+    bool exportPdf(const QString& path) const;
+
+    QTableWidget* Events;
+    QTableView* Schedule;
+    QTableView* Years;
+    QChartView* Chart;
+    std::vector<QLabel*> Figures; // totals, then savings
+    QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
+
+private:
+    // The events the list holds; a row the plan can't use is marked with the reason.
+    std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount);
+    void showFigures(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base, int era);
+    void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
+    void print();
+    std::unique_ptr<QTextDocument> document() const;
+
+    QPointer<MainWindow> m_main;
+    CellsModel* m_schedule;
+    CellsModel* m_years;
+    std::vector<engine::Payment> m_payments;
+    bool m_reading = false;
+};
+
+} // namespace shell
