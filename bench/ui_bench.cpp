@@ -7,6 +7,11 @@
 #include "shell/app.h"
 #include "shell/listbox.h"
 #include "shell/mainwindow.h"
+#include "shell/planwindow.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTableWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -76,6 +81,32 @@ void SelectAllRows(benchmark::State& state) {
     delete window;
 }
 BENCHMARK(SelectAllRows)->Arg(100'000)->Unit(benchmark::kMillisecond);
+
+// An event edited in the Plan window to the repainted plan: schedule, totals, years and chart.
+void PlanEventEdit(benchmark::State& state) {
+    auto* window = new shell::MainWindow;
+    window->show();
+    window->GankinField->setText("900,000,000,000");
+    window->Kaisu->setText(QString::number(state.range(0)));
+    window->Nenriritsu->setText("0.5");
+    window->CulcButton->Push();
+    window->showPlan();
+    auto* plan = window->findChild<shell::PlanWindow*>();
+    QString lines;
+    for (int i = 0; i < state.range(1); ++i)
+        lines += QString("prepay %1 1000 reduce\n")
+                     .arg(1 + i * (state.range(0) / std::max<std::int64_t>(state.range(1), 1)));
+    QGuiApplication::clipboard()->setText(lines);
+    plan->pasteEvents();
+    int value = 1000;
+    for (auto _ : state) {
+        plan->Events->item(0, 2)->setText(QString::number(++value)); // recalculates
+        plan->repaint();
+    }
+    state.counters["resident_MB"] = residentMegabytes();
+    delete window;
+}
+BENCHMARK(PlanEventEdit)->Args({144, 1})->Args({100'000, 1'000})->Unit(benchmark::kMillisecond);
 
 } // namespace
 

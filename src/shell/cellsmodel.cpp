@@ -3,35 +3,43 @@
 
 namespace shell {
 
-void CellsModel::setRows(QStringList headings, std::vector<table::Cells> rows) {
+void CellsModel::setRows(QStringList headings, std::size_t count, RowTexts rowTexts) {
     beginResetModel();
     m_headings = std::move(headings);
-    m_rows = std::move(rows);
+    m_count = count;
+    m_rowTexts = std::move(rowTexts);
     endResetModel();
 }
 
-table::Cells CellsModel::headings() const {
-    table::Cells cells;
-    for (const QString& heading : m_headings) cells.push_back(heading.toStdString());
-    return cells;
+std::vector<table::Cells> CellsModel::all() const {
+    std::vector<table::Cells> rows(1);
+    for (const QString& heading : m_headings) rows.front().push_back(heading.toStdString());
+    for (std::size_t row = 0; row < m_count; ++row) rows.push_back(m_rowTexts(row));
+    return rows;
 }
 
-int CellsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : static_cast<int>(m_rows.size()); }
+int CellsModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : static_cast<int>(m_count); }
 
-int CellsModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : static_cast<int>(m_headings.size()); }
+int CellsModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_headings.size());
+}
 
 QVariant CellsModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const auto& row = m_rows[static_cast<std::size_t>(index.row())];
-    if (role == Qt::DisplayRole && static_cast<std::size_t>(index.column()) < row.size())
-        return QString::fromStdString(row[static_cast<std::size_t>(index.column())]);
+    if (role == Qt::DisplayRole) {
+        const table::Cells row = m_rowTexts(static_cast<std::size_t>(index.row()));
+        if (static_cast<std::size_t>(index.column()) < row.size())
+            return QString::fromStdString(row[static_cast<std::size_t>(index.column())]);
+    }
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignVCenter | (index.column() >= m_firstAmount ? Qt::AlignRight : Qt::AlignHCenter));
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (index.column() >= m_firstAmount ? Qt::AlignRight : Qt::AlignHCenter));
     return {};
 }
 
 QVariant CellsModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < m_headings.size()) return m_headings.at(section);
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section < m_headings.size())
+        return m_headings.at(section);
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 

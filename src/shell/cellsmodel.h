@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A read-only table of texts computed once: the plan's schedule and its years. Columns from
-// `firstAmount` on are amounts, aligned right like the main table's.
+// A read-only table of texts: the plan's schedule and its years. Each row's texts are made when the
+// view asks for them, from numbers computed once. Columns from `firstAmount` on are amounts,
+// aligned right like the main table's.
 
 #include "table/rows.h"
 
 #include <QAbstractTableModel>
 #include <QStringList>
+
+#include <functional>
 
 namespace shell {
 
@@ -15,9 +18,10 @@ class CellsModel : public QAbstractTableModel {
 public:
     CellsModel(int firstAmount, QObject* parent) : QAbstractTableModel(parent), m_firstAmount(firstAmount) {}
 
-    void setRows(QStringList headings, std::vector<table::Cells> rows);
-    const std::vector<table::Cells>& rows() const { return m_rows; }
-    table::Cells headings() const;
+    using RowTexts = std::function<table::Cells(std::size_t row)>;
+    void setRows(QStringList headings, std::size_t count, RowTexts rowTexts);
+    // Every row, headings first: what is copied, saved and printed.
+    std::vector<table::Cells> all() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -27,7 +31,8 @@ public:
 private:
     int m_firstAmount;
     QStringList m_headings;
-    std::vector<table::Cells> m_rows;
+    std::size_t m_count = 0;
+    RowTexts m_rowTexts;
 };
 
 } // namespace shell

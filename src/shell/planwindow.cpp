@@ -50,7 +50,8 @@ QString qs(const std::string& s) { return QString::fromStdString(s); }
 class ChoiceDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
         if (index.column() != kKind && index.column() != kMode)
             return QStyledItemDelegate::createEditor(parent, option, index);
         auto* choices = new QComboBox(parent);
@@ -182,8 +183,10 @@ std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount)
         for (int column = 0; column < Events->columnCount(); ++column) {
             if (!Events->item(row, column)) Events->setItem(row, column, new QTableWidgetItem);
             QTableWidgetItem* item = Events->item(row, column);
-            item->setBackground(reading.event ? QBrush() : QBrush(QColor(255, 210, 210)));
-            item->setToolTip(reasons.value(static_cast<int>(reading.code)));
+            const QBrush mark = reading.event ? QBrush() : QBrush(QColor(255, 210, 210));
+            if (item->background() != mark) item->setBackground(mark);
+            const QString why = reasons.value(static_cast<int>(reading.code));
+            if (item->toolTip() != why) item->setToolTip(why);
         }
     }
     m_reading = false;
@@ -207,12 +210,17 @@ void PlanWindow::recalculate() {
     const int era = terms.dateLine.era;
     QStringList headings = strings::fields(strings::kHeader, '\t');
     headings.insert(table::kBalance, text(strings::kPrepaidHeading));
-    m_schedule->setRows(headings, table::planRowTexts(plan.payments, era, terms.dateLine.payDay));
+    const std::int64_t payDay = terms.dateLine.payDay;
+    m_schedule->setRows(headings, m_payments.size(), [this, era, payDay](std::size_t row) {
+        return table::planRowText(m_payments[row], era, payDay);
+    });
     const QString eras = strings::fields(strings::kRekiCombination, ',').mid(0, calendar::kEraCount).join(',');
     std::array<std::string, calendar::kEraCount> eraNames;
-    for (int i = 0; i < calendar::kEraCount; ++i) eraNames[static_cast<std::size_t>(i)] = eras.section(',', i, i).toStdString();
-    m_years->setRows(strings::fields(strings::kYearHeader, '\t'),
-                     table::yearRowTexts(plan.payments, era, terms.dateLine.payDay, eraNames));
+    for (int i = 0; i < calendar::kEraCount; ++i)
+        eraNames[static_cast<std::size_t>(i)] = eras.section(',', i, i).toStdString();
+    auto years = std::make_shared<std::vector<table::Cells>>(table::yearRowTexts(m_payments, era, payDay, eraNames));
+    m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
+                     [years](std::size_t row) { return (*years)[row]; });
     showFigures(plan.payments, base.payments, form.era);
     drawChart(plan.payments, base.payments);
 }
@@ -274,19 +282,37 @@ void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::
         connect(series, &QLineSeries::hovered, this, [this, payments, names](QPointF point, bool inside) {
             if (!inside || payments.empty()) return;
             const QDate at = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(point.x())).date();
-            const auto nearest = std::min_element(payments.begin(), payments.end(), [&at](const auto& a, const auto& b) {
-                return std::abs(dateTime(a.date).date().daysTo(at)) < std::abs(dateTime(b.date).date().daysTo(at));
-            });
-            QToolTip::showText(QCursor::pos(), text(strings::kPointer)
-                                                   .arg(nearest->number)
-                                                   .arg(QLocale().toString(dateTime(nearest->date).date(), QLocale::ShortFormat))
-                                                   .arg(qs(runtime::Format(nearest->balance, table::kAmountMask))));
+            const auto nearest =
+                std::min_element(payments.begin(), payments.end(), [&at](const auto& a, const auto& b) {
+                    return std::abs(dateTime(a.date).date().daysTo(at)) < std::abs(dateTime(b.date).date().daysTo(at));
+                });
+            QToolTip::showText(QCursor::pos(),
+                               text(strings::kPointer)
+                                   .arg(nearest->number)
+                                   .arg(QLocale().toString(dateTime(nearest->date).date(), QLocale::ShortFormat))
+                                   .arg(qs(runtime::Format(nearest->balance, table::kAmountMask))));
         });
     };
     add(plan, false, 0, Qt::SolidLine);
     add(base, false, 1, Qt::DashLine);
     add(plan, true, 2, Qt::DotLine);
     add(base, true, 3, Qt::DashDotLine);
+    // Both loans whole: from the first payment to the later end, from 0 to the highest figure.
+    if (!plan.empty() && !base.empty()) {
+        const calendar::Date& last =
+            plan.back().date.days() < base.back().date.days() ? base.back().date : plan.back().date;
+        dates->setRange(dateTime(base.front().date), dateTime(last));
+        double highest = 0;
+        for (const auto* payments : {&plan, &base}) {
+            double interest = 0;
+            for (const engine::Payment& p : *payments) {
+                interest += p.interest;
+                highest = std::max({highest, p.balance + p.principal + p.prepaid, interest});
+            }
+        }
+        amounts->setRange(0, highest);
+        amounts->applyNiceNumbers();
+    }
     QChart* old = Chart->chart();
     Chart->setChart(chart);
     delete old;
@@ -338,8 +364,10 @@ void PlanWindow::pasteEvents() {
         if (words.isEmpty() || words.front().startsWith('#')) continue;
         QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
         for (int i = 3; i < words.size(); ++i) {
-            if (words[i] == "every") cells[kEvery] = words.value(++i);
-            else cells[kMode] = words[i];
+            if (words[i] == "every")
+                cells[kEvery] = words.value(++i);
+            else
+                cells[kMode] = words[i];
         }
         const int row = Events->rowCount();
         Events->insertRow(row);
@@ -350,12 +378,10 @@ void PlanWindow::pasteEvents() {
 }
 
 void PlanWindow::copySchedule() const {
-    std::vector<table::Cells> all{m_schedule->headings()};
-    all.insert(all.end(), m_schedule->rows().begin(), m_schedule->rows().end());
+    const std::vector<table::Cells> all = m_schedule->all();
     auto* mime = new QMimeData;
     mime->setText(qs(table::toTsv(all)));
     mime->setData("text/csv", QByteArray::fromStdString(table::toCsv(all)));
-    std::vector<table::Row> none;
     QString html = "<table>";
     for (const auto& row : all) {
         html += "<tr>";
@@ -367,10 +393,8 @@ void PlanWindow::copySchedule() const {
 }
 
 bool PlanWindow::saveCsv(const QString& path) const {
-    std::vector<table::Cells> all{m_schedule->headings()};
-    all.insert(all.end(), m_schedule->rows().begin(), m_schedule->rows().end());
     QFile file(path);
-    const QByteArray csv = QByteArray::fromStdString(table::toCsv(all));
+    const QByteArray csv = QByteArray::fromStdString(table::toCsv(m_schedule->all()));
     return file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size();
 }
 
@@ -390,10 +414,11 @@ std::unique_ptr<QTextDocument> PlanWindow::document() const {
                 Figures[i]->text().toHtmlEscaped() + "</td></tr>";
     html += "</table><p><img src=\"chart.png\" width=600></p>";
     // The schedule, its headings repeated at the top of each page.
+    const std::vector<table::Cells> all = m_schedule->all();
     html += "<table border=1 cellspacing=0 cellpadding=2><thead><tr>";
-    for (const auto& heading : m_schedule->headings()) html += "<th>" + qs(heading).toHtmlEscaped() + "</th>";
+    for (const auto& heading : all.front()) html += "<th>" + qs(heading).toHtmlEscaped() + "</th>";
     html += "</tr></thead>";
-    for (const auto& row : m_schedule->rows()) {
+    for (const auto& row : std::vector<table::Cells>(all.begin() + 1, all.end())) {
         html += "<tr>";
         for (std::size_t c = 0; c < row.size(); ++c)
             html += QString(c >= table::kAmount ? "<td align=right>" : "<td align=center>") + qs(row[c]) + "</td>";

@@ -23,32 +23,36 @@ std::string dateCell(std::int64_t year, std::int64_t month, std::int64_t day) {
 
 } // namespace
 
+Row rowText(const engine::Payment& payment, int era, std::int64_t payDay) {
+    // The era of the form, or the one that followed it by the payment's date.
+    const auto shown = calendar::displayedEraYear(era, payment.date.Year(), payment.date.Month(), payDay);
+    return {Format(static_cast<double>(payment.number), "000"),
+            dateCell(shown.year, payment.date.Month(), payment.date.Day()),
+            Format(payment.amount, kAmountMask),
+            Format(payment.principal, kAmountMask),
+            Format(payment.interest, kAmountMask),
+            Format(payment.balance, kAmountMask)};
+}
+
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
     std::vector<Row> rows;
     rows.reserve(payments.size());
-    for (const engine::Payment& payment : payments) {
-        // The era of the form, or the one that followed it by the payment's date.
-        const auto shown = calendar::displayedEraYear(era, payment.date.Year(), payment.date.Month(), payDay);
-        Row& row = rows.emplace_back();
-        row[kNumber] = Format(static_cast<double>(payment.number), "000");
-        row[kDate] = dateCell(shown.year, payment.date.Month(), payment.date.Day());
-        row[kAmount] = Format(payment.amount, kAmountMask);
-        row[kPrincipal] = Format(payment.principal, kAmountMask);
-        row[kInterest] = Format(payment.interest, kAmountMask);
-        row[kBalance] = Format(payment.balance, kAmountMask);
-    }
+    for (const engine::Payment& payment : payments) rows.push_back(rowText(payment, era, payDay));
     return rows;
 }
 
-std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
-    const std::vector<Row> rows = rowTexts(payments, era, payDay);
-    std::vector<Cells> cells;
-    cells.reserve(rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        Cells& row = cells.emplace_back(rows[i].begin(), rows[i].end());
-        row.insert(row.begin() + kBalance, Format(payments[i].prepaid, kAmountMask));
-    }
+Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay) {
+    const Row row = rowText(payment, era, payDay);
+    Cells cells(row.begin(), row.end());
+    cells.insert(cells.begin() + kBalance, Format(payment.prepaid, kAmountMask));
     return cells;
+}
+
+std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
+    std::vector<Cells> rows;
+    rows.reserve(payments.size());
+    for (const engine::Payment& payment : payments) rows.push_back(planRowText(payment, era, payDay));
+    return rows;
 }
 
 std::vector<Cells> yearRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,

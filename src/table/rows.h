@@ -28,8 +28,10 @@ inline constexpr std::string_view kAmountMask = "###,###,###,###";
 // One row a payment. A date's year shows under `era`, or under the era that followed it where the
 // date (tested with `payDay`) is past that era's end.
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
+Row rowText(const engine::Payment& payment, int era, std::int64_t payDay);
 // The same with the prepaid amount of each payment after its interest.
 std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
+Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay);
 
 // One row a calendar year: the Western year, the year as the date column shows its era (with the
 // era's name from `eraNames`), the count of payments and the amounts, the balance at its end.

@@ -47,7 +47,8 @@ protected:
     static std::string tool(const std::string& events) {
         const std::string command = std::string(KESTRUNE_SCHEDULE) +
                                     " --era western --year 2020 --month 3 --day 15 --principal 30,000,000 --rate 1.5"
-                                    " --times 420 --method flat --format tsv " + events;
+                                    " --times 420 --method flat --format tsv " +
+                                    events;
         std::string out;
         FILE* pipe = popen(command.c_str(), "r");
         for (int c; (c = std::fgetc(pipe)) != EOF;) out += static_cast<char>(c);
@@ -93,8 +94,10 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
                 tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000"));
-    const std::string totals = tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000 --totals --format table");
-    EXPECT_NE(totals.find("Break-even payment: " + figure(9).section(' ', 0, 0).toStdString() + " ("), std::string::npos);
+    const std::string totals =
+        tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000 --totals --format table");
+    EXPECT_NE(totals.find("Break-even payment: " + figure(9).section(' ', 0, 0).toStdString() + " ("),
+              std::string::npos);
     EXPECT_NE(totals.find("Interest saved: " + figure(6).toStdString() + "\n"), std::string::npos);
     EXPECT_EQ(plan->Chart->chart()->series().size(), 4);
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
@@ -112,7 +115,8 @@ TEST_F(PlanTest, SavesCsvAndExportsAPaginatedPdf) {
     std::ifstream pdf(dir.filePath("plan.pdf").toStdString(), std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(pdf)), {});
     std::size_t pages = 0;
-    for (auto at = bytes.find("/Type /Page\n"); at != std::string::npos; at = bytes.find("/Type /Page\n", at + 1)) ++pages;
+    for (auto at = bytes.find("/Type /Page\n"); at != std::string::npos; at = bytes.find("/Type /Page\n", at + 1))
+        ++pages;
     EXPECT_GT(pages, 1u);
 }
 
