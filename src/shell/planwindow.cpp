@@ -141,6 +141,7 @@ PlanWindow::PlanWindow(MainWindow* main)
     Chart->setRenderHint(QPainter::Antialiasing);
     const QStringList tabNames = strings::fields(strings::kTabs, '\t');
     auto* tabs = new QTabWidget(this);
+    tabs->setAccessibleName(tabNames.join(", "));
     tabs->addTab(Schedule, tabNames.value(0));
     tabs->addTab(Years, tabNames.value(1));
     tabs->addTab(Chart, tabNames.value(2));

@@ -3,6 +3,7 @@
 
 #include "shell/aboutwindow.h"
 #include "shell/helpwindow.h"
+#include "shell/planwindow.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -113,8 +114,8 @@ void expectNamedForAssistiveTechnology(QWidget* window, const std::string& where
             const auto* label = qobject_cast<QLabel*>(child->object());
             const QString shown = label ? label->text() : child->text(QAccessible::Value);
             const bool figure = child->object()->objectName() == "SelNum" || child->object()->objectName() == "Kansai";
-            const std::string what =
-                where + " " + child->object()->objectName().toStdString() + " \"" + name.toStdString() + "\"";
+            const std::string what = where + " " + child->object()->metaObject()->className() + " " +
+                                     child->object()->objectName().toStdString() + " \"" + name.toStdString() + "\"";
             if (child->state().focusable || figure) {
                 EXPECT_FALSE(name.isEmpty()) << what;
             }
@@ -138,6 +139,8 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         expectNamedForAssistiveTechnology(w, language + " main window");
         expectNamedForAssistiveTechnology(shell::App::instance()->helpWindow(), language + " help window");
         expectNamedForAssistiveTechnology(shell::App::instance()->aboutWindow(), language + " About window");
+        w->showPlan();
+        expectNamedForAssistiveTechnology(w->findChild<shell::PlanWindow*>(), language + " Plan window");
         EXPECT_EQ(w->GankinField->accessibleName(), japanese ? "元金" : "Principal");
         EXPECT_EQ(w->RekiKind->accessibleDescription(), japanese ? "令和" : "Reiwa");
         EXPECT_EQ(w->menuBar()->actions().at(0)->text(), japanese ? "ファイル(&F)" : "&File");
