@@ -49,37 +49,13 @@ TEST(Schedule, TheDateColumnShowsTheYearOfTheEraInForce) {
     EXPECT_EQ(rows(showa)[0][table::kDate], "64.01.07");
     showa.date.payDay = "8";
     EXPECT_EQ(rows(showa)[0][table::kDate], "01.01.08") << "Heisei 1 from 8 January 1989";
-    LoanForm lastDays = loan2020(false);
-    lastDays.date = {"2023", "12", "31", "31"};
-    const auto ends = rows(lastDays);
-    EXPECT_EQ(ends[1][table::kDate], "24.02.29");
-    EXPECT_EQ(ends[3][table::kDate], "24.04.30");
 }
 
-struct RangeCase {
-    ListedRange listed;
-    const char* times;
-    std::size_t count;
-    const char* first;
-};
-
-TEST(Schedule, ListsTheRangeAsked) {
-    const RangeCase cases[] = {
-        {{10, 20}, "144", 11, "010"},
-        {{150, -1}, "144", 0, ""},
-        {{1, -1}, "1e9", 100000, "001"},
-        {{std::numeric_limits<std::int64_t>::min(), 2}, "144", 2, "001"},
-    };
-    for (const auto& c : cases) {
-        LoanForm form = loan2020(false);
-        form.times = c.times;
-        const auto listed = rows(form, c.listed);
-        ASSERT_EQ(listed.size(), c.count) << c.listed.first << " to " << c.listed.last << " of " << c.times;
-        if (c.count > 0) {
-            EXPECT_EQ(listed.front()[table::kNumber], c.first);
-        }
-    }
-    EXPECT_EQ(rows(loan2020(true), {1, 12})[11], rows(loan2020(true))[11]) << "a cut keeps the rows it lists";
+TEST(Schedule, ListsTheRangeAskedAndACutKeepsItsRows) {
+    EXPECT_EQ(rows(loan2020(false), {10, 20}).front()[table::kNumber], "010");
+    EXPECT_EQ(rows(loan2020(false), {std::numeric_limits<std::int64_t>::min(), 2}).size(), 2u);
+    EXPECT_TRUE(rows(loan2020(false), {150, -1}).empty());
+    EXPECT_EQ(rows(loan2020(true), {1, 12})[11], rows(loan2020(true))[11]);
 }
 
 struct RefusalCase {

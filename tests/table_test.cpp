@@ -63,19 +63,12 @@ TEST(Recombination, TheNewLoanStartsOnTheSelectedPayment) {
         old.rate = "1.5";
         old.flatPayment = true;
         old.delay = calendar::kThreeAfter;
-        const engine::LoanForm loan = recombination(old, c.firstPayment, c.selected, c.rowsUpToSelected);
-        SCOPED_TRACE(c.selected[kNumber]);
-        EXPECT_EQ(loan.principal, c.selected[kBalance]);
-        EXPECT_EQ(loan.era, c.newEra);
-        EXPECT_EQ(loan.date.year, c.newYear);
-        EXPECT_EQ(loan.date.month, c.month);
-        EXPECT_EQ(loan.date.day, c.day);
-        EXPECT_EQ(loan.times, c.times);
-        EXPECT_EQ(loan.firstRow, "1");
-        EXPECT_EQ(loan.rate, "1.5");
-        EXPECT_TRUE(loan.flatPayment);
-        EXPECT_EQ(loan.date.payDay, "8");
-        EXPECT_EQ(loan.delay, calendar::kNext);
+        // The balance on the payment's date, the rate, the pay day and the method; a new form's delay.
+        const engine::LoanForm expected{
+            c.selected[kBalance], "1.5", c.times, "1", c.newEra, {c.newYear, c.month, c.day, "8"},
+            calendar::kNext,      true};
+        EXPECT_TRUE(recombination(old, c.firstPayment, c.selected, c.rowsUpToSelected) == expected)
+            << c.selected[kNumber];
     }
     engine::LoanForm payDay31;
     payDay31.date.payDay = "31";

@@ -35,8 +35,6 @@ TEST(ScheduleTool, PrintsTheTableInEachFormat) {
     EXPECT_EQ(run(kLoan2020 + "--last 1").out, "Pay off: 2032 / 3 / 8 \n\n"
                                                "No.  Repayment   Amount  Principal  Interest     Balance\n"
                                                "001  20.04.08   781,684    650,264   131,420  99,349,736\n");
-    EXPECT_EQ(run(kLoan2020 + "--last 1 --format tsv").out, "No.\tRepayment\tAmount\tPrincipal\tInterest\tBalance\n"
-                                                            "001\t20.04.08\t781,684\t650,264\t131,420\t99,349,736\n");
     EXPECT_EQ(run(kLoan2020 + "--last 1 --format csv").out,
               "No.,Repayment,Amount,Principal,Interest,Balance\r\n"
               "001,20.04.08,\"781,684\",\"650,264\",\"131,420\",\"99,349,736\"\r\n");
@@ -82,9 +80,7 @@ struct StatusCase {
 TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
     const StatusCase cases[] = {
         {"--rate 0", 1, "principal, rate and count must be non-zero\n"},
-        {"--rate 1e-20 --method flat", 1, "amounts out of range\n"},
         {"--principal 1e400", 1, "amounts out of range\n"},
-        {"--principal 9007199254740992 --times 1", 1, "amounts out of range\n"},
         {"--era meiji", 2, "kestrune-schedule: bad value for --era: meiji\n"},
         {"--last x", 2, "kestrune-schedule: --last takes a whole number: x\n"},
         {"--frobnicate 1", 2, "kestrune-schedule: unknown option: --frobnicate\n"},

@@ -15,16 +15,6 @@ protected:
         WindowTest::SetUp();
         setForm(loan2020());
     }
-    // Types over a cell as a user does: double-click, type, Return.
-    void typeIntoCell(int row, int column, const QString& text) {
-        const QPoint at = w->ListBox1->visualRect(w->ListBox1->model()->index(row, column)).center();
-        QTest::mouseClick(w->ListBox1->viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(w->ListBox1->viewport(), Qt::LeftButton, {}, at);
-        QWidget* editor = QApplication::focusWidget();
-        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(editor, text);
-        QTest::keyClick(editor, Qt::Key_Return);
-    }
     // Selection count, interest total, and the three buttons under the table, as the user sees them.
     void expectFigures(const char* count, const char* total, bool one, bool showAll, const char* caption) {
         EXPECT_EQ(w->SelNum->text(), count);
@@ -50,13 +40,6 @@ TEST_F(TableTest, TheFiguresFollowTheSelectionAlsoThroughARecalculation) {
     QTest::mouseClick(w->ListBox1, Qt::LeftButton, {}, QPoint(30, 8));
     EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{11});
     EXPECT_EQ(cell(0, table::kNumber), "001");
-}
-
-TEST_F(TableTest, ATypedOverInterestCellCountsAsItReads) {
-    typeIntoCell(1, table::kInterest, "1,000");
-    clickRow(0);
-    clickRow(1, Qt::ShiftModifier);
-    EXPECT_EQ(w->RisokuTotal->text(), "132,420");
 }
 
 TEST_F(TableTest, SelectAllTogglesAndSurvivesARecalculation) {
