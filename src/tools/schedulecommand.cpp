@@ -164,9 +164,6 @@ std::vector<std::pair<std::string, std::string>> totalLines(const engine::PlanTo
     return lines;
 }
 
-const table::Cells kYearHeader{"Year",     "Era year", "Payments", "Amount", "Principal",
-                               "Interest", "Prepaid",  "Fees",     "Balance"};
-
 // "N:AMOUNT[:shorten|reduce][:every=M]" and the like as an event line ("prepay N AMOUNT ...").
 std::string eventLineOf(const std::string& kind, const std::string& value) {
     std::string line = kind;
@@ -287,7 +284,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         for (const table::Row& row : table::rowTexts(plan ? listedPayments : calc.payments, era, payDay))
             rows.emplace_back(row.begin(), row.end());
     }
-    const table::Cells header = byYear ? kYearHeader : headerRow(withPrepaid);
+    const table::Cells header =
+        byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(withPrepaid);
     if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
 
     const engine::PlanTotals totals = engine::planTotals(calc.payments);
