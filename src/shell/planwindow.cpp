@@ -20,6 +20,7 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineSeries>
 #include <QMimeData>
@@ -136,6 +137,7 @@ PlanWindow::PlanWindow(MainWindow* main)
         return view;
     };
     Schedule = tableView(m_schedule, "Schedule");
+    Schedule->installEventFilter(this); // Copy takes its selected rows
     Years = tableView(m_years, "Years");
     Chart = new QChartView(this);
     Chart->setRenderHint(QPainter::Antialiasing);
@@ -212,6 +214,8 @@ void PlanWindow::recalculate() {
     QStringList headings = strings::fields(strings::kHeader, '\t');
     headings.insert(table::kBalance, text(strings::kPrepaidHeading));
     const std::int64_t payDay = terms.dateLine.payDay;
+    m_era = era;
+    m_payDay = payDay;
     m_schedule->setRows(headings, m_payments.size(), [this, era, payDay](std::size_t row) {
         return table::planRowText(m_payments[row], era, payDay);
     });
@@ -317,6 +321,21 @@ void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::
     QChart* old = Chart->chart();
     Chart->setChart(chart);
     delete old;
+}
+
+bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != Schedule || event->type() != QEvent::KeyPress ||
+        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+        return QWidget::eventFilter(watched, event);
+    std::vector<int> selected;
+    for (const QModelIndex& index : Schedule->selectionModel()->selectedIndexes()) selected.push_back(index.row());
+    std::sort(selected.begin(), selected.end());
+    selected.erase(std::unique(selected.begin(), selected.end()), selected.end());
+    std::vector<table::Cells> rows;
+    for (const int row : selected)
+        rows.push_back(table::planRowText(m_payments[static_cast<std::size_t>(row)], m_era, m_payDay));
+    if (!rows.empty()) QGuiApplication::clipboard()->setText(qs(table::toTsv(rows)));
+    return true;
 }
 
 void PlanWindow::addEvent() {

@@ -45,6 +45,9 @@ public:
     std::vector<QLabel*> Figures; // totals, then savings
     QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     // The events the list holds; a row the plan can't use is marked with the reason.
     std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount);
@@ -57,6 +60,8 @@ private:
     CellsModel* m_schedule;
     CellsModel* m_years;
     std::vector<engine::Payment> m_payments;
+    int m_era = 0;             // of the form, for the date column
+    std::int64_t m_payDay = 0; // as the form reads it
     bool m_reading = false;
 };
 

@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QLineSeries>
+#include <QPointer>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -69,14 +70,24 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     setForm(form);
     EXPECT_EQ(plan->windowTitle(), "Plan: Flat payment, 30,000,000 at 1.5 %, 360 payments");
     EXPECT_EQ(figure(0), "360");
+    QPointer<shell::PlanWindow> open = plan;
+    w->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(open.isNull()) << "closed with its window";
 }
 
 TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     ASSERT_EQ(plan->Events->rowCount(), 1);
-    plan->Events->item(0, 0)->setText("60");
-    plan->Events->item(0, 2)->setText("1,000,000");
-    plan->Events->item(0, 4)->setText("60");
+    // Typed into the cells: F2 edits, Return ends the edit.
+    for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1,000,000"}, {4, "60"}}) {
+        plan->Events->setCurrentCell(0, column);
+        QTest::keyClick(plan->Events, Qt::Key_F2);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), typed);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents(); // the edit is committed once the editor has closed
+    }
     EXPECT_EQ(figure(0), "350") << "a shorter term";
     paste("rate 61 0.9\nfee\t61\t330000\nprepay 500 5\n# a comment\n");
     ASSERT_EQ(plan->Events->rowCount(), 4);
@@ -94,6 +105,11 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
                 tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000"));
+    const QModelIndex payment60 = plan->Schedule->model()->index(59, 0);
+    plan->Schedule->scrollTo(payment60);
+    QTest::mouseClick(plan->Schedule->viewport(), Qt::LeftButton, {}, plan->Schedule->visualRect(payment60).center());
+    QTest::keyClick(plan->Schedule, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("060\t")) << "the selected row";
     const std::string totals =
         tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000 --totals --format table");
     EXPECT_NE(totals.find("Break-even payment: " + figure(9).section(' ', 0, 0).toStdString() + " ("),
@@ -101,6 +117,16 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     EXPECT_NE(totals.find("Interest saved: " + figure(6).toStdString() + "\n"), std::string::npos);
     EXPECT_EQ(plan->Chart->chart()->series().size(), 4);
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
+}
+
+TEST_F(PlanTest, TheScheduleIsTheToolsForEitherMethod) {
+    engine::LoanForm form = w->loanForm();
+    form.flatPayment = false;
+    setForm(form);
+    paste("prepay 12 500000 reduce every 12\nrate 100 3\n");
+    QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    std::string expected = tool("--prepay 12:500000:reduce:every=12 --rate-change 100:3 --method equal");
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() == expected);
 }
 
 TEST_F(PlanTest, SavesCsvAndExportsAPaginatedPdf) {
