@@ -50,6 +50,7 @@ TEST(Calendar, DateFromAnEraYearLimitsTheDayAndCarriesTheMonth) {
     for (const auto& c : cases)
         EXPECT_EQ(iso(dateFromEraYear(c.era, c.year, c.month, c.day)), c.date)
             << "era " << c.era << " " << c.year << "-" << c.month << "-" << c.day;
+    EXPECT_EQ(dayWithinMonth(kWestern, 2023, 9, 31), 30) << "as the day field corrects it";
     EXPECT_EQ(daysBetween(Date(2024, 1, 31), Date(2024, 2, 29)), 29);
     EXPECT_EQ(daysBetween(Date(2020, 4, 8), Date(2020, 3, 15)), -24);
 }
