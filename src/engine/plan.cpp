@@ -101,8 +101,10 @@ PlanTotals planTotals(const std::vector<Payment>& payments) {
 
 PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::vector<Payment>& plan) {
     const PlanTotals base = planTotals(withoutEvents), totals = planTotals(plan);
-    PlanSavings savings{base.interest - totals.interest, base.payments - totals.payments,
-                        base.interest - totals.interest - totals.fees, std::nullopt};
+    PlanSavings savings;
+    savings.interestSaved = base.interest - totals.interest;
+    savings.paymentsSaved = base.payments - totals.payments;
+    savings.netSaving = savings.interestSaved - totals.fees;
     double saved = 0.0, fees = 0.0;
     bool feePaid = false;
     for (std::size_t i = 0; i < std::max(withoutEvents.size(), plan.size()); ++i) {
@@ -113,6 +115,7 @@ PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::ve
         feePaid = feePaid || fees > 0.0;
         if (feePaid && saved >= fees) {
             savings.breakEven = static_cast<std::int64_t>(i) + 1;
+            savings.breakEvenDate = (i < plan.size() ? plan[i] : withoutEvents[i]).date;
             break;
         }
     }

@@ -46,6 +46,7 @@ struct PlanSavings {
     // The first payment, from the first fee's on, by which the interest saved so far reaches the
     // fees paid so far; none without fees, or where it never does.
     std::optional<std::int64_t> breakEven;
+    calendar::Date breakEvenDate; // the date of that payment, in whichever loan still runs
 };
 PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::vector<Payment>& plan);
 

@@ -213,17 +213,12 @@ void PlanWindow::recalculate() {
     const int era = terms.dateLine.era;
     QStringList headings = strings::fields(strings::kHeader, '\t');
     headings.insert(table::kBalance, text(strings::kPrepaidHeading));
-    const std::int64_t payDay = terms.dateLine.payDay;
     m_era = era;
-    m_payDay = payDay;
-    m_schedule->setRows(headings, m_payments.size(), [this, era, payDay](std::size_t row) {
-        return table::planRowText(m_payments[row], era, payDay);
-    });
-    const QString eras = strings::fields(strings::kRekiCombination, ',').mid(0, calendar::kEraCount).join(',');
-    std::array<std::string, calendar::kEraCount> eraNames;
-    for (int i = 0; i < calendar::kEraCount; ++i)
-        eraNames[static_cast<std::size_t>(i)] = eras.section(',', i, i).toStdString();
-    auto years = std::make_shared<std::vector<table::Cells>>(table::yearRowTexts(m_payments, era, payDay, eraNames));
+    m_payDay = terms.dateLine.payDay;
+    m_schedule->setRows(headings, m_payments.size(),
+                        [this](std::size_t row) { return table::planRowText(m_payments[row], m_era, m_payDay); });
+    auto years = std::make_shared<std::vector<table::Cells>>(
+        table::yearRowTexts(m_payments, era, m_payDay, MainWindow::payoffWords().eraNames));
     m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
                      [years](std::size_t row) { return (*years)[row]; });
     showFigures(plan.payments, base.payments, form.era);
@@ -238,10 +233,9 @@ void PlanWindow::showFigures(const std::vector<engine::Payment>& plan, const std
     const engine::PlanTotals totals = engine::planTotals(plan);
     const engine::PlanSavings savings = engine::planSavings(base, plan);
     const std::int64_t saved = savings.paymentsSaved;
-    QString breakEven = text(strings::kNone);
-    if (savings.breakEven && *savings.breakEven <= static_cast<std::int64_t>(plan.size()))
-        breakEven = QString::number(*savings.breakEven) + " (" +
-                    date(plan[static_cast<std::size_t>(*savings.breakEven - 1)].date).trimmed() + ")";
+    const QString breakEven =
+        savings.breakEven ? QString::number(*savings.breakEven) + " (" + date(savings.breakEvenDate).trimmed() + ")"
+                          : text(strings::kNone);
     const QString values[] = {QString::number(totals.payments),
                               amount(totals.paid),
                               amount(totals.interest),
@@ -402,13 +396,7 @@ void PlanWindow::copySchedule() const {
     auto* mime = new QMimeData;
     mime->setText(qs(table::toTsv(all)));
     mime->setData("text/csv", QByteArray::fromStdString(table::toCsv(all)));
-    QString html = "<table>";
-    for (const auto& row : all) {
-        html += "<tr>";
-        for (const auto& cell : row) html += "<td>" + qs(cell).toHtmlEscaped() + "</td>";
-        html += "</tr>";
-    }
-    mime->setHtml(html + "</table>");
+    mime->setHtml(qs(table::toHtml(all)));
     QGuiApplication::clipboard()->setMimeData(mime);
 }
 

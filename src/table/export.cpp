@@ -54,12 +54,12 @@ std::string toTsv(const std::vector<Cells>& rows) { return joined(rows, std::ide
 std::string toCsv(const std::vector<Row>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
 std::string toCsv(const std::vector<Cells>& rows) { return joined(rows, csvField, ",", "", "\r\n"); }
 
-std::string toHtml(const std::vector<table::Row>& rows) {
-    return "<table>" +
-           joined(
-               rows, [](const std::string& cell) { return "<td>" + htmlEscaped(cell) + "</td>"; }, "", "<tr>",
-               "</tr>") +
-           "</table>";
+template <typename Rows> std::string html(const Rows& rows) {
+    const auto cell = [](const std::string& text) { return "<td>" + htmlEscaped(text) + "</td>"; };
+    return "<table>" + joined(rows, cell, "", "<tr>", "</tr>") + "</table>";
 }
+
+std::string toHtml(const std::vector<Row>& rows) { return html(rows); }
+std::string toHtml(const std::vector<Cells>& rows) { return html(rows); }
 
 } // namespace table

@@ -17,5 +17,6 @@ std::string toCsv(const std::vector<Row>& rows);
 std::string toCsv(const std::vector<Cells>& rows);
 // A <table> with one <tr> a row and one <td> a cell, the texts escaped.
 std::string toHtml(const std::vector<Row>& rows);
+std::string toHtml(const std::vector<Cells>& rows);
 
 } // namespace table

@@ -137,9 +137,8 @@ void printAligned(const table::Cells& header, const std::vector<table::Cells>& r
 std::string amount(double value) { return runtime::Format(value, table::kAmountMask); }
 
 // The lines of the totals and, for a plan with events, of its savings.
-std::vector<std::pair<std::string, std::string>> totalLines(const engine::PlanTotals& totals,
-                                                            const std::optional<engine::PlanSavings>& savings,
-                                                            const std::vector<engine::Payment>& payments, int era) {
+std::vector<std::pair<std::string, std::string>>
+totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSavings>& savings, int era) {
     const auto date = [era](const calendar::Date& d) { return calendar::payoffText(d, era, {}); };
     std::vector<std::pair<std::string, std::string>> lines{{"payments", runtime::Str(totals.payments)},
                                                            {"paid", amount(totals.paid)},
@@ -154,13 +153,9 @@ std::vector<std::pair<std::string, std::string>> totalLines(const engine::PlanTo
                                {"payments saved", runtime::Str(saved) + " (" + runtime::Str(saved / 12) + " years " +
                                                       runtime::Str(saved % 12) + " months)"},
                                {"net saving", amount(savings->netSaving)}});
-    std::string breakEven = "none";
-    if (savings->breakEven && *savings->breakEven <= static_cast<std::int64_t>(payments.size()))
-        breakEven = runtime::Str(*savings->breakEven) + " (" +
-                    date(payments[static_cast<std::size_t>(*savings->breakEven - 1)].date) + ")";
-    else if (savings->breakEven)
-        breakEven = runtime::Str(*savings->breakEven);
-    lines.emplace_back("break-even payment", breakEven);
+    lines.emplace_back("break-even payment", savings->breakEven ? runtime::Str(*savings->breakEven) + " (" +
+                                                                      date(savings->breakEvenDate) + ")"
+                                                                : "none");
     return lines;
 }
 
@@ -293,7 +288,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     if (!events.empty()) savings = engine::planSavings(engine::calculate(form).payments, calc.payments);
     const std::string payoff = calendar::payoffText(
         withPrepaid && !calc.payments.empty() ? totals.payoff : calc.record.dates.payoff, form.era, {});
-    const auto lines = totalLines(totals, savings, calc.payments, form.era);
+    const auto lines = totalLines(totals, savings, form.era);
 
     switch (format) {
     case 0:
