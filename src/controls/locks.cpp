@@ -50,8 +50,9 @@ void LockedLayoutWidget::fit(double verticalScale) {
             if (p.designRect.center().x() < c.designRect.x() && sameLine(p.designRect, c.designRect))
                 left = std::max(left, end(p.fittedRect) + c.designRect.x() - end(p.designRect));
         }
-        c.fittedRect =
-            QRect(left, c.designRect.y(), std::max(c.designRect.width(), c.neededWidth), c.designRect.height());
+        const auto scaled = [verticalScale](int y) { return static_cast<int>(std::lround(y * verticalScale)); };
+        c.fittedRect = QRect(left, scaled(c.designRect.y()), std::max(c.designRect.width(), c.neededWidth),
+                             scaled(c.designRect.y() + c.designRect.height()) - scaled(c.designRect.y()));
         const int rightDistance = c.locks & Lock::Right ? m_designSize.width() - end(c.designRect) : margin;
         width = std::max(width, end(c.fittedRect) + std::max(rightDistance, 0));
     }
@@ -92,10 +93,9 @@ void LockedLayoutWidget::resizeEvent(QResizeEvent* event) {
     for (const auto& placed : m_placed) placed.control->setGeometry(rectFor(placed));
 }
 
-int widthForText(const QWidget* lineEdit, const QString& text) {
+int widthForText(const QLineEdit* edit, const QString& text) {
     // What QLineEdit gives its text: the frame's contents, less its text margins, less a fixed
     // margin of 2 on each side and the cursor.
-    const auto* edit = static_cast<const QLineEdit*>(lineEdit);
     const QMargins textMargins = edit->textMargins();
     const int contents =
         edit->fontMetrics().horizontalAdvance(text) + 2 * 2 + 1 + textMargins.left() + textMargins.right();

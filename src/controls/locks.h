@@ -12,6 +12,8 @@
 #include <QRect>
 #include <QWidget>
 
+class QLineEdit;
+
 #include <vector>
 
 namespace controls {
@@ -54,7 +56,7 @@ private:
 };
 
 // The widths that show a text whole in each kind of control, in the control's own font and style.
-int widthForText(const QWidget* lineEdit, const QString& text);
+int widthForText(const QLineEdit* edit, const QString& text);
 int widthForCaptions(QWidget* buttonOrLabel, const QStringList& captions);
 
 } // namespace controls

@@ -18,6 +18,7 @@ void expectWhole(const controls::TextField* field) {
     const QMargins margins = field->textMargins();
     const int room = field->style()->subElementRect(QStyle::SE_LineEditContents, &option, field).width() - 2 * 2 - 1 -
                      margins.left() - margins.right();
+    EXPECT_GE(field->height(), field->sizeHint().height()) << field->objectName().toStdString() << " is too low";
     EXPECT_LE(field->fontMetrics().horizontalAdvance(field->text()), room)
         << field->objectName().toStdString() << " \"" << field->text().toStdString() << "\"";
 }
@@ -102,6 +103,15 @@ void checkEveryTextShowsWhole(const char* language) {
 }
 
 TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInEnglish) { checkEveryTextShowsWhole("English"); }
+
+TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInALargeFont) {
+    const QFont normal = QApplication::font();
+    QFont large = normal;
+    large.setPointSizeF(normal.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    checkEveryTextShowsWhole("a font one and a half times larger");
+    QApplication::setFont(normal);
+}
 
 TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInJapanese) {
     Japanese japanese;
