@@ -276,7 +276,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     if (withPrepaid) {
         rows = table::planRowTexts(listedPayments, era, payDay);
     } else {
-        for (const table::Row& row : table::rowTexts(plan ? listedPayments : calc.payments, era, payDay))
+        for (const table::Row& row : table::rowTexts(listedPayments, era, payDay))
             rows.emplace_back(row.begin(), row.end());
     }
     const table::Cells header =
