@@ -4,10 +4,10 @@
 #include "controls/bevelbutton.h"
 #include "controls/pushbutton.h"
 #include "controls/textfield.h"
+#include "planner/planwindow.h"
 #include "shell/app.h"
 #include "shell/listbox.h"
 #include "shell/mainwindow.h"
-#include "shell/planwindow.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -91,7 +91,7 @@ void PlanEventEdit(benchmark::State& state) {
     window->Nenriritsu->setText("0.5");
     window->CulcButton->Push();
     window->showPlan();
-    auto* plan = window->findChild<shell::PlanWindow*>();
+    auto* plan = window->findChild<planner::PlanWindow*>();
     QString lines;
     for (int i = 0; i < state.range(1); ++i)
         lines += QString("prepay %1 1000 reduce\n")

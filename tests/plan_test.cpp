@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 
 using namespace engine;
 
@@ -116,13 +117,85 @@ TEST(Plan, EventLinesReadAndWrittenBack) {
         {"fee 61 330000", "fee 61 330000"},
     };
     for (const auto& [line, written] : lines) EXPECT_EQ(eventLine(*readEvent(line, 420).event), written) << line;
-    const std::pair<const char*, const char*> errors[] = {
-        {"prepay 421 100", "payment outside 1 to the count"},
-        {"fee 3 -5", "negative amount"},
-        {"rate 3 abc", "not a number"},
-        {"prepay 3 100 sooner", "not an event"},
+    const std::pair<std::string, std::string> errors[] = {
+        {"prepay 421 100", "payment outside 1 to the count: prepay 421 100"},
+        {"fee 3 -5", "negative amount: fee 3 -5"},
+        {"rate 3 abc", "not a number: rate 3 abc"},
+        {"prepay 3 100 sooner", "not an event: prepay 3 100 sooner"},
+        {"prepay 1 1000 every 421", "every takes a count of payments from 1 to the count: prepay 1 1000 every 421"},
+        {"prepay 1 1000 every 922337203685477580700000",
+         "every takes a count of payments from 1 to the count: prepay 1 1000 every 92233720368547758070..."},
+        {"fee 1 9007199254740993", "amount beyond 9,007,199,254,740,992: fee 1 9007199254740993"},
+        {"prepay 1 1e300", "amount beyond 9,007,199,254,740,992: prepay 1 1e300"},
+        {"prepay 1 \x1b[31mred\xff \xe2\x82\xac", "not a number: prepay 1 ?[31mred? \xe2\x82\xac"},
     };
-    for (const auto& [line, why] : errors) EXPECT_EQ(readEvent(line, 420).error, std::string(why) + ": " + line);
+    for (const auto& [line, why] : errors) EXPECT_EQ(readEvent(line, 420).error, why) << line;
+    EXPECT_TRUE(readEvent("rate 1 1e300", 420).event) << "a rate is no amount: the walk refuses it";
+    EXPECT_TRUE(readEvent("fee 1 9007199254740992", 420).event);
+}
+
+TEST(Plan, TextsAreReadWithinTheirBounds) {
+    const std::string longest(kMaxLineLength, 'x');
+    std::string tooMany;
+    for (std::size_t i = 0; i <= kMaxPlanLines; ++i) tooMany += "#\n";
+    struct Case {
+        std::string text;
+        std::vector<std::string> lines;
+        std::string error;
+    };
+    const Case cases[] = {
+        {"fee 1 1\n\n  # a note\r\nrate 2 1\r\nprepay 3 1", {"fee 1 1", "rate 2 1\r", "prepay 3 1"}, ""},
+        {longest + "\n" + longest, {longest, longest}, ""},
+        {"fee 1 1\n" + longest + "y\nfee 2 2", {"fee 1 1"}, "line 2 is longer than 1,000 characters"},
+        {std::string(1 << 20, '\0'), {}, "line 1 is longer than 1,000 characters"},
+        {tooMany.substr(2), {}, ""},
+        {tooMany, {}, "more than 100,000 lines"},
+    };
+    for (const Case& c : cases) {
+        std::istringstream in(c.text);
+        const PlanLines read = readPlanLines(in);
+        EXPECT_EQ(read.lines, c.lines) << c.text.substr(0, 30);
+        EXPECT_EQ(read.error, c.error) << c.text.substr(0, 30);
+    }
+}
+
+TEST(Plan, ARefusedPlanNamesTheEventThatMakesIt) {
+    const std::pair<std::vector<const char*>, std::optional<std::size_t>> cases[] = {
+        {{"prepay 1 5", "rate 2 1e300", "fee 3 1"}, 1},
+        {{"fee 1 5,000,000,000,000,000", "fee 2 1", "fee 3 5,000,000,000,000,000"}, 2}, // the total paid
+        {{"prepay 1 5", "fee 3 1"}, std::nullopt},
+    };
+    for (const auto& [lines, by] : cases) {
+        const PlanOutcome outcome = evaluatePlan(tinyLoan(), events(lines));
+        EXPECT_EQ(outcome.refusal, by ? Refusal::OutOfRange : Refusal::None) << lines[1];
+        EXPECT_EQ(outcome.refusedBy, by) << lines[1];
+    }
+    // The principal as typed, though a double reads 2^53 + 1 as 2^53.
+    LoanForm form = tinyLoan();
+    for (const auto& [principal, refusal] : {std::pair{"9007199254740992", Refusal::None},
+                                             {"9,007,199,254,740,993", Refusal::OutOfRange},
+                                             {"9007199254740992.5", Refusal::OutOfRange}}) {
+        form.principal = principal;
+        EXPECT_EQ(calculate(form).refusal, refusal) << principal;
+    }
+    EXPECT_EQ(evaluatePlan(form, {}).refusal, Refusal::OutOfRange) << "its total paid, with interest, is beyond";
+}
+
+TEST(Plan, RepeatingLinesActAsTheirSum) {
+    // A thousand lines that each prepay 1 every payment from their own, and a payment's reduce
+    // prepayments acting before its shorten ones whatever their order.
+    std::vector<PlanEvent> many;
+    for (int k = 1; k <= 1000; ++k)
+        many.push_back(*readEvent("prepay " + std::to_string(k) + " 1 every 1", 10000).event);
+    LoanForm form = tinyLoan();
+    form.principal = "100,000,000";
+    form.times = "10000";
+    const auto walked = calculate(form, {}, many).payments;
+    for (const std::size_t n : {0, 499, 999, 1500})
+        EXPECT_EQ(walked[n].prepaid, static_cast<double>(std::min<std::size_t>(n + 1, 1000))) << n;
+    form.flatPayment = true;
+    EXPECT_EQ(calculate(form, {}, events({"prepay 3 300 shorten", "prepay 3 200 reduce"}, 10000)).payments,
+              calculate(form, {}, events({"prepay 3 200 reduce", "prepay 3 300 shorten"}, 10000)).payments);
 }
 
 } // namespace

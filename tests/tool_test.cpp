@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,8 +18,10 @@ struct Result {
 
 // The exit status and what the tool wrote to each stream; `stdoutTo` redirects its output.
 Result run(const std::string& args, const std::string& stdoutTo = "") {
+    // Files of this process's own: tests may run side by side.
     const auto dir = std::filesystem::temp_directory_path();
-    const auto outFile = dir / "kestrune-schedule-test.out", errFile = dir / "kestrune-schedule-test.err";
+    const std::string stem = "kestrune-schedule-test-" + std::to_string(getpid());
+    const auto outFile = dir / (stem + ".out"), errFile = dir / (stem + ".err");
     const std::string command = std::string(KESTRUNE_SCHEDULE) + " " + args + " 2> " + errFile.string() + " " +
                                 (stdoutTo.empty() ? "> " + outFile.string() : stdoutTo);
     const int status = std::system(command.c_str());
@@ -79,8 +82,8 @@ struct StatusCase {
 
 TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
     const StatusCase cases[] = {
-        {"--rate 0", 1, "principal, rate and count must be non-zero\n"},
-        {"--principal 1e400", 1, "amounts out of range\n"},
+        {"--rate 0", 1, "kestrune-schedule: principal, rate and count must be non-zero\n"},
+        {"--principal 1e400", 1, "kestrune-schedule: amounts out of range\n"},
         {"--era meiji", 2, "kestrune-schedule: bad value for --era: meiji\n"},
         {"--last x", 2, "kestrune-schedule: --last takes a whole number: x\n"},
         {"--frobnicate 1", 2, "kestrune-schedule: unknown option: --frobnicate\n"},

@@ -359,11 +359,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>回	種類	値	方式	間隔</translation>
     </message>
     <message>
-        <source>kEventErrors</source>
-        <comment>	Not an event	The payment is outside the loan	Not a number	The amount is negative	Every takes a count of payments</comment>
-        <translation>	予定として読めません	返済回がローンの範囲外です	数値ではありません	金額が負です	間隔は返済回数で指定します</translation>
-    </message>
-    <message>
         <source>kAddEvent</source>
         <comment>&amp;Add</comment>
         <translation>追加(&amp;A)</translation>
@@ -432,6 +427,51 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kEventsTitle</source>
         <comment>Prepayments, rate changes and fees</comment>
         <translation>繰上返済・金利変更・手数料</translation>
+    </message>
+    <message>
+        <source>kEventErrors</source>
+        <comment>	Not an event	The payment is outside the loan	Not a number	The amount is negative	Every takes a count of payments from 1 to the count	The amount is beyond 9,007,199,254,740,992	With this event the plan&apos;s amounts go beyond 9,007,199,254,740,992</comment>
+        <translation>	予定として読めません	返済回がローンの範囲外です	数値ではありません	金額が負です	間隔は1から返済回数までの回数で指定します	金額が9,007,199,254,740,992を超えています	この予定で計画の金額が9,007,199,254,740,992を超えます</translation>
+    </message>
+    <message>
+        <source>kSaveFailed</source>
+        <comment>&quot;%1&quot; could not be saved: %2</comment>
+        <translation>“%1”を保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>kPrintFailed</source>
+        <comment>The plan could not be printed.</comment>
+        <translation>計画を印刷できませんでした。</translation>
+    </message>
+    <message>
+        <source>kReportFailed</source>
+        <comment>the report could not be written</comment>
+        <translation>報告書を書き出せませんでした</translation>
+    </message>
+    <message>
+        <source>kWritingReport</source>
+        <comment>Writing the report...</comment>
+        <translation>報告書を書き出しています...</translation>
+    </message>
+    <message>
+        <source>kCancel</source>
+        <comment>Cancel</comment>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>kPasteRefused</source>
+        <comment>The pasted text was not added: %1</comment>
+        <translation>貼り付けたテキストは追加されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>kLineTooLong</source>
+        <comment>line %1 is longer than %2 characters.</comment>
+        <translation>%1行目が%2文字を超えています。</translation>
+    </message>
+    <message>
+        <source>kTooManyLines</source>
+        <comment>it has more than %1 lines.</comment>
+        <translation>%1行を超えています。</translation>
     </message>
 </context>
 </TS>

@@ -50,7 +50,9 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
     }
     calc.record = settleLoan(calc.terms);
     const double fixedAmount = calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal;
-    const bool exact = isExactAmount(calc.record.principal) && isExactAmount(fixedAmount);
+    // The principal as typed, not as a double rounds it: 2^53 + 1 is beyond.
+    const long double typed = runtime::wideVal(runtime::withoutCommas(form.principal));
+    const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount);
     auto payments = exact ? walkSchedule(calc.record, listed, events) : std::nullopt;
     if (!payments) {
         calc.refusal = Refusal::OutOfRange;

@@ -4,6 +4,7 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <sstream>
@@ -40,8 +41,9 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
                                  "payment outside 1 to the count",
                                  "not a number",
                                  "negative amount",
-                                 "every takes a count of payments"};
-        return EventReading{std::nullopt, code, reasons[static_cast<int>(code)] + (": " + std::string(line))};
+                                 "every takes a count of payments from 1 to the count",
+                                 "amount beyond 9,007,199,254,740,992"};
+        return EventReading{std::nullopt, code, reasons[static_cast<int>(code)] + (": " + runtime::excerpt(line))};
     };
     if (words.size() < 3) return fail(EventError::NotAnEvent);
 
@@ -60,6 +62,8 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     const auto value = number(words[2]);
     if (!value) return fail(EventError::NotANumber);
     if (*value < 0) return fail(EventError::NegativeAmount);
+    if (event.kind != EventKind::RateChange && runtime::wideVal(runtime::withoutCommas(words[2])) > kMaxExactAmount)
+        return fail(EventError::AmountTooLarge);
     event.value = *value;
 
     std::size_t next = 3;
@@ -67,7 +71,7 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
         event.mode = words[next++] == "reduce" ? PrepayMode::Reduce : PrepayMode::Shorten;
     if (event.kind == EventKind::Prepay && next + 1 < words.size() && words[next] == "every") {
         const auto every = wholeNumber(words[next + 1]);
-        if (!every || *every < 1) return fail(EventError::BadEvery);
+        if (!every || *every < 1 || *every > paymentCount) return fail(EventError::BadEvery);
         event.every = *every;
         next += 2;
     }
@@ -83,6 +87,34 @@ std::string eventLine(const PlanEvent& event) {
     line += event.mode == PrepayMode::Reduce ? " reduce" : " shorten";
     if (event.every > 0) line += " every " + runtime::Str(event.every);
     return line;
+}
+
+PlanLines readPlanLines(std::istream& in) {
+    PlanLines read;
+    // Room for the longest line allowed and its end: getline stops a longer line with failbit.
+    std::string line(kMaxLineLength + 1, '\0');
+    for (std::size_t number = 1;; ++number) {
+        in.getline(line.data(), static_cast<std::streamsize>(line.size()));
+        const auto extracted = static_cast<std::size_t>(in.gcount());
+        if (in.bad() || (in.fail() && extracted == 0)) return read; // a failed stream, or the end
+        if (in.fail() && !in.eof()) {
+            read.problem = PlanLines::LineTooLong;
+            read.line = number;
+            read.error = "line " + runtime::Str(static_cast<std::int64_t>(number)) + " is longer than " +
+                         runtime::Format(kMaxLineLength, "#,###") + " characters";
+            return read;
+        }
+        if (number > kMaxPlanLines) {
+            read.problem = PlanLines::TooManyLines;
+            read.error = "more than " + runtime::Format(kMaxPlanLines, "###,###") + " lines";
+            return read;
+        }
+        // The line's end was extracted with it, unless the text ended first.
+        const std::string_view text(line.data(), extracted - (in.eof() ? 0 : 1));
+        const auto start = text.find_first_not_of(" \t\r");
+        if (start != std::string_view::npos && text[start] != '#') read.lines.emplace_back(text);
+        if (in.eof()) return read;
+    }
 }
 
 PlanTotals planTotals(const std::vector<Payment>& payments) {
@@ -120,6 +152,46 @@ PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::ve
         }
     }
     return savings;
+}
+
+namespace {
+
+bool exactTotals(const PlanTotals& totals) {
+    return isExactAmount(totals.paid) && isExactAmount(totals.principal) && isExactAmount(totals.interest) &&
+           isExactAmount(totals.prepaid) && isExactAmount(totals.fees);
+}
+
+// The plan calculated whole, refused also where a total is beyond what a double holds exactly.
+Calculation planCalculation(const LoanForm& form, const std::vector<PlanEvent>& events) {
+    Calculation calc = calculate(form, {}, events);
+    if (calc.refusal == Refusal::None && !exactTotals(planTotals(calc.payments))) calc.refusal = Refusal::OutOfRange;
+    return calc;
+}
+
+} // namespace
+
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events) {
+    PlanOutcome outcome;
+    outcome.base = planCalculation(form, {});
+    outcome.plan = events.empty() ? outcome.base : planCalculation(form, events);
+    outcome.refusal = outcome.base.refusal != Refusal::None ? outcome.base.refusal : outcome.plan.refusal;
+    if (outcome.refusal != Refusal::None) {
+        if (outcome.base.refusal == Refusal::None) {
+            // The shortest head of the events that is refused ends with the event to blame.
+            std::size_t fine = 0, refused = events.size();
+            while (refused - fine > 1) {
+                const std::size_t middle = fine + (refused - fine) / 2;
+                const std::vector<PlanEvent> head(events.begin(), events.begin() + static_cast<std::ptrdiff_t>(middle));
+                (planCalculation(form, head).refusal == Refusal::None ? fine : refused) = middle;
+            }
+            outcome.refusedBy = refused - 1;
+        }
+        return outcome;
+    }
+    outcome.totals = planTotals(outcome.plan.payments);
+    outcome.savings = planSavings(outcome.base.payments, outcome.plan.payments);
+    outcome.years = yearlyFigures(outcome.plan.payments);
+    return outcome;
 }
 
 std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments) {

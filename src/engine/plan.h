@@ -4,8 +4,9 @@
 // fees), the lines that name them, and what the plan comes to: totals, the savings against the
 // same loan without events, and the figures of each calendar year.
 
-#include "engine/schedule.h"
+#include "engine/calculation.h"
 
+#include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,16 +16,34 @@ namespace engine {
 
 // One event from its line: "prepay 12 1,000,000 reduce every 12", "rate 61 1.5", "fee 61 330000",
 // words apart by blanks or tabs. The event, or why the line is none: a payment outside 1 to the
-// count, a negative amount, or text that is not an event.
-enum class EventError { None, NotAnEvent, PaymentOutside, NotANumber, NegativeAmount, BadEvery };
+// count, a negative amount or one beyond kMaxExactAmount, a period outside 1 to the count, or
+// text that is not an event.
+enum class EventError { None, NotAnEvent, PaymentOutside, NotANumber, NegativeAmount, BadEvery, AmountTooLarge };
 struct EventReading {
     std::optional<PlanEvent> event;
     EventError code = EventError::None;
-    std::string error; // the reason in English, with the line
+    std::string error; // the reason in English, with the head of the line
 };
 EventReading readEvent(std::string_view line, std::int64_t paymentCount);
 // The line of an event, as readEvent reads it back.
 std::string eventLine(const PlanEvent& event);
+
+// A plan's text (an events file, a paste) holds at most this many lines of at most this many
+// characters: more is refused, so that no input can make a plan unbounded.
+constexpr std::size_t kMaxPlanLines = 100'000;
+constexpr std::size_t kMaxLineLength = 1'000;
+
+// The event lines of a text, blank lines and lines from '#' left out, or why the text is refused
+// (a line too long, too many lines). A stream that fails to read stops the reading: the caller
+// tells why from the stream.
+struct PlanLines {
+    enum Problem { None, LineTooLong, TooManyLines };
+    std::vector<std::string> lines;
+    Problem problem = None;
+    std::size_t line = 0; // the line too long
+    std::string error;    // the problem in English; empty where the text is read whole
+};
+PlanLines readPlanLines(std::istream& in);
 
 // The whole of a plan, counted over all its payments.
 struct PlanTotals {
@@ -63,5 +82,20 @@ struct YearFigures {
     calendar::Date lastPayment;
 };
 std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments);
+
+// A plan worked out: the loan of the form with its events and without them, and what the plan
+// comes to. Refused as the calculation is, and also where a total goes beyond kMaxExactAmount.
+struct PlanOutcome {
+    Refusal refusal = Refusal::None;
+    // Where the loan without events is fine and the plan is not: the first event that, added to
+    // those before it, makes the plan refused.
+    std::optional<std::size_t> refusedBy;
+    Calculation plan;
+    Calculation base; // the same loan without events
+    PlanTotals totals;
+    PlanSavings savings;
+    std::vector<YearFigures> years;
+};
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events);
 
 } // namespace engine

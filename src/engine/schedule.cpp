@@ -4,42 +4,89 @@
 #include "runtime/numbers.h"
 
 #include <algorithm>
+#include <map>
 #include <queue>
 #include <tuple>
 
 namespace engine {
 namespace {
 
-// The events in the order they come: by payment, then rate changes before fees before
-// prepayments; a recurring prepayment comes back every so many payments.
+// What the events of one payment ask of the walk.
+struct DueEvents {
+    std::optional<double> rate; // percent a year, from the last rate change of the payment
+    double fee = 0.0;
+    double reduce = 0.0, shorten = 0.0;         // prepaid amounts by mode
+    bool anyReduce = false, anyShorten = false; // a prepayment of 0 still sets the payment or the term
+};
+
+// The events in the order of their payments. A recurring prepayment belongs to a series: the
+// prepayments of one mode and period whose payments fall on the same residue of that period.
+// A series comes due as one amount (the sum of its prepayments that have started), so that the
+// walk costs about payments x series, however many lines repeat the same period.
 class Agenda {
 public:
-    explicit Agenda(const std::vector<PlanEvent>& events) : m_events(events) {
-        for (std::size_t i = 0; i < events.size(); ++i) m_due.push({events[i].payment, events[i].kind, i});
+    explicit Agenda(const std::vector<PlanEvent>& events) {
+        std::map<std::tuple<std::int64_t, std::int64_t, PrepayMode>, std::size_t> seriesOf;
+        for (const PlanEvent& event : events) {
+            // readEvent keeps payments and periods within the count; an event built otherwise
+            // past the longest loan never comes due.
+            if (event.payment < 1 || event.payment > kMaxPayments || event.every > kMaxPayments) continue;
+            if (event.kind != EventKind::Prepay || event.every < 1) {
+                m_once.push_back(&event);
+                continue;
+            }
+            const auto key = std::make_tuple(event.every, event.payment % event.every, event.mode);
+            const auto [it, added] = seriesOf.try_emplace(key, m_series.size());
+            if (added) m_series.push_back({event.every, event.mode, {}, 0, 0.0});
+            m_series[it->second].starts.emplace_back(event.payment, event.value);
+        }
+        std::stable_sort(m_once.begin(), m_once.end(),
+                         [](const PlanEvent* a, const PlanEvent* b) { return a->payment < b->payment; });
+        for (std::size_t i = 0; i < m_series.size(); ++i) {
+            std::sort(m_series[i].starts.begin(), m_series[i].starts.end());
+            m_due.emplace(m_series[i].starts.front().first, i);
+        }
     }
-    // The events of payment n, in order.
-    std::vector<const PlanEvent*> at(std::int64_t n) {
-        std::vector<const PlanEvent*> due;
-        while (!m_due.empty() && m_due.top().payment <= n) {
-            const Due next = m_due.top();
+
+    // The events of payment n; n grows from one call to the next.
+    DueEvents at(std::int64_t n) {
+        DueEvents due;
+        for (; m_nextOnce < m_once.size() && m_once[m_nextOnce]->payment <= n; ++m_nextOnce) {
+            const PlanEvent& event = *m_once[m_nextOnce];
+            if (event.payment < n) continue;
+            if (event.kind == EventKind::RateChange) due.rate = event.value;
+            if (event.kind == EventKind::Fee) due.fee += event.value;
+            if (event.kind == EventKind::Prepay) add(due, event.mode, event.value);
+        }
+        while (!m_due.empty() && m_due.top().first <= n) {
+            const auto [payment, index] = m_due.top();
             m_due.pop();
-            const PlanEvent& event = m_events[next.index];
-            if (next.payment == n) due.push_back(&event);
-            if (event.every > 0) m_due.push({next.payment + event.every, event.kind, next.index});
+            Series& series = m_series[index];
+            for (; series.joined < series.starts.size() && series.starts[series.joined].first <= payment;
+                 ++series.joined)
+                series.sum += series.starts[series.joined].second;
+            if (payment == n) add(due, series.mode, series.sum);
+            if (payment <= kMaxPayments - series.every) m_due.emplace(payment + series.every, index);
         }
         return due;
     }
 
 private:
-    struct Due {
-        std::int64_t payment;
-        EventKind kind;
-        std::size_t index;
-        bool operator>(const Due& o) const {
-            return std::tie(payment, kind, index) > std::tie(o.payment, o.kind, o.index);
-        }
+    static void add(DueEvents& due, PrepayMode mode, double value) {
+        (mode == PrepayMode::Reduce ? due.reduce : due.shorten) += value;
+        (mode == PrepayMode::Reduce ? due.anyReduce : due.anyShorten) = true;
+    }
+    struct Series {
+        std::int64_t every;
+        PrepayMode mode;
+        std::vector<std::pair<std::int64_t, double>> starts; // payment and amount of each prepayment
+        std::size_t joined;                                  // how many of them have started
+        double sum;                                          // what those prepay each time
     };
-    const std::vector<PlanEvent>& m_events;
+    std::vector<const PlanEvent*> m_once; // the events that come once, by payment, in their order
+    std::size_t m_nextOnce = 0;
+    std::vector<Series> m_series;
+    using Due = std::pair<std::int64_t, std::size_t>; // the payment a series comes due with
     std::priority_queue<Due, std::vector<Due>, std::greater<>> m_due;
 };
 
@@ -71,10 +118,9 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
 
     for (std::int64_t i = 0; i < limit; ++i) {
         const std::int64_t n = i + 1;
-        const auto due = events.empty() ? std::vector<const PlanEvent*>{} : agenda.at(n);
-        for (const PlanEvent* event : due) {
-            if (event->kind != EventKind::RateChange) continue;
-            annualRate = event->value / 100.0;
+        const DueEvents due = agenda.at(n);
+        if (due.rate) {
+            annualRate = *due.rate / 100.0;
             dailyRate = annualRate / kDaysInYear;
             if (record.flatPayment) amount = annuityPayment(balance, annualRate, record.paymentCount - i);
         }
@@ -95,23 +141,27 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
         balance -= principal;
         Payment paid{n, current, amount, principal, interest, 0.0, 0.0, 0.0};
 
-        // Fees and prepayments come after the regular payment; a reduce prepayment sets the
-        // payments that follow.
-        double prepaid = 0.0, fee = 0.0;
-        for (const PlanEvent* event : due) {
-            if (event->kind == EventKind::Fee) fee += event->value;
-            if (event->kind != EventKind::Prepay || balance <= 0.0) continue;
-            const double extra = std::min(event->value, balance);
+        // Fees and prepayments come after the regular payment. Prepayments that lower the payment
+        // act first and set it from what they leave; those that shorten the loan follow.
+        double prepaid = 0.0;
+        const double fee = due.fee;
+        if (due.anyReduce && balance > 0.0) {
+            const double extra = std::min(due.reduce, balance);
             prepaid += extra;
             balance -= extra;
-            shortened = shortened || event->mode == PrepayMode::Shorten;
             const std::int64_t left = record.paymentCount - n;
-            if (event->mode == PrepayMode::Reduce && balance > 0.0 && left > 0) {
+            if (balance > 0.0 && left > 0) {
                 if (record.flatPayment)
                     amount = annuityPayment(balance, annualRate, left);
                 else
                     principal = runtime::Round(balance / static_cast<double>(left));
             }
+        }
+        if (due.anyShorten && balance > 0.0) {
+            const double extra = std::min(due.shorten, balance);
+            prepaid += extra;
+            balance -= extra;
+            shortened = true;
         }
         for (const double figure : {paid.amount, paid.principal, interest, balance, amount, principal, fee})
             if (!isExactAmount(figure)) return std::nullopt;

@@ -23,6 +23,7 @@ struct Payment {
     double balance;       // after this payment and its prepayment
     double prepaid = 0.0; // extra principal paid with this payment
     double fee = 0.0;     // costs paid with this payment
+    friend bool operator==(const Payment&, const Payment&) = default;
 };
 
 // The payments of the listed range (up to the last payment), with the events of a plan. Empty

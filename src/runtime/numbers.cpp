@@ -27,9 +27,8 @@ std::int64_t magnitude(std::string_view mantissa, std::int64_t exponent) {
     return exponent - static_cast<std::int64_t>(firstFraction);
 }
 
-} // namespace
-
-double Val(std::string_view text) {
+// The number at the head of the text in the floating type Real (see Val).
+template <typename Real> Real valueAt(std::string_view text) {
     std::size_t i = 0;
     while (i < text.size() && isBlank(text[i])) ++i;
 
@@ -44,7 +43,7 @@ double Val(std::string_view text) {
         while (i < text.size() && isDigit(text[i])) ++i;
         hasDigits = hasDigits || i > afterPoint;
     }
-    if (!hasDigits) return 0.0;
+    if (!hasDigits) return Real(0);
     std::size_t end = i;
 
     // An exponent counts only with at least one digit; its value saturates for the magnitude test.
@@ -67,18 +66,24 @@ double Val(std::string_view text) {
     }
 
     const std::string_view number = text.substr(start, end - start);
-    double value = 0.0;
+    Real value = 0;
     const auto [ptr, error] =
         std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::general);
     if (error == std::errc::result_out_of_range) {
         const auto exponentAt = number.find_first_of("eE");
         const bool overflow = magnitude(number.substr(0, exponentAt), exponent) > 0;
-        value = overflow ? std::numeric_limits<double>::max() : 0.0;
+        value = overflow ? std::numeric_limits<Real>::max() : Real(0);
     } else if (error != std::errc{}) {
-        value = 0.0;
+        value = 0;
     }
     return negative ? -value : value;
 }
+
+} // namespace
+
+double Val(std::string_view text) { return valueAt<double>(text); }
+
+long double wideVal(std::string_view text) { return valueAt<long double>(text); }
 
 std::string Str(std::int64_t value) { return std::to_string(value); }
 

@@ -15,6 +15,9 @@ namespace runtime {
 // the first character that can't continue them. Never inf or nan: a value beyond the double
 // range saturates to the largest finite double of its sign.
 double Val(std::string_view text);
+// The same number read into a long double, whose 64-bit mantissa holds every whole number a
+// user types up to 2^64: tells 2^53 + 1 from the 2^53 that a double rounds it to.
+long double wideVal(std::string_view text);
 
 // The double as plain text: the shortest that reads back as the same double, no trailing
 // zeros, and no exponent for whole numbers below 1e15 ("2", "2.5", "144").

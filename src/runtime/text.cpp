@@ -36,4 +36,32 @@ std::string NthField(std::string_view text, std::string_view separator, std::siz
 
 std::string withoutCommas(std::string_view text) { return Join(Split(text, ","), ""); }
 
+std::string excerpt(std::string_view text, std::size_t length) {
+    std::string quoted;
+    std::size_t characters = 0, i = 0;
+    for (; i < text.size() && characters < length; ++characters) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        // The bytes of one UTF-8 character: its lead byte says how many follow, each 10xxxxxx.
+        const std::size_t size = lead < 0x80                   ? 1
+                                 : lead >= 0xC2 && lead < 0xE0 ? 2
+                                 : lead >= 0xE0 && lead < 0xF0 ? 3
+                                 : lead >= 0xF0 && lead < 0xF5 ? 4
+                                                               : 0;
+        bool whole = size > 0 && i + size <= text.size();
+        for (std::size_t k = 1; whole && k < size; ++k)
+            whole = (static_cast<unsigned char>(text[i + k]) & 0xC0) == 0x80;
+        // C0 and C1 controls and DEL; C1 (U+0080 to U+009F) is 0xC2 0x80 to 0xC2 0x9F.
+        const bool control =
+            lead < 0x20 || lead == 0x7F || (lead == 0xC2 && whole && static_cast<unsigned char>(text[i + 1]) < 0xA0);
+        if (!whole || control) {
+            quoted += '?';
+            ++i;
+        } else {
+            quoted.append(text.substr(i, size));
+            i += size;
+        }
+    }
+    return i < text.size() ? quoted + "..." : quoted;
+}
+
 } // namespace runtime

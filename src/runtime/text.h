@@ -17,4 +17,9 @@ std::string NthField(std::string_view text, std::string_view separator, std::siz
 // The text with every comma taken out: how amounts with thousands separators are read.
 std::string withoutCommas(std::string_view text);
 
+// The head of a text a user gave, safe to quote in a message: at most `length` characters,
+// "..." after a cut, and every control character (a terminal's escape among them) or byte that is
+// not UTF-8 shown as '?'.
+std::string excerpt(std::string_view text, std::size_t length = 40);
+
 } // namespace runtime

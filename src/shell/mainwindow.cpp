@@ -9,13 +9,13 @@
 #include "controls/textfield.h"
 #include "form/amountfields.h"
 #include "placement/helpplacement.h"
+#include "planner/planwindow.h"
 #include "runtime/numbers.h"
 #include "shell/aboutwindow.h"
 #include "shell/app.h"
 #include "shell/helpwindow.h"
 #include "shell/listbox.h"
 #include "shell/menubar.h"
-#include "shell/planwindow.h"
 #include "strings/lookup.h"
 #include "table/recombination.h"
 #include "table/selectionsum.h"
@@ -392,7 +392,7 @@ void MainWindow::CulcButton_Action() {
 }
 
 void MainWindow::showPlan() {
-    if (!m_plan) m_plan = new PlanWindow(this);
+    if (!m_plan) m_plan = new planner::PlanWindow(this);
     m_plan->show();
     m_plan->raise();
     m_plan->activateWindow();

@@ -46,10 +46,13 @@ class PushButton;
 class TextField;
 } // namespace controls
 
+namespace planner {
+class PlanWindow;
+}
+
 namespace shell {
 
 class ListBox;
-class PlanWindow;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -189,7 +192,7 @@ private:
 
     int m_actionRuns = 0;
     QPointer<QWidget> m_lastFocusedControl;
-    QPointer<PlanWindow> m_plan;
+    QPointer<planner::PlanWindow> m_plan;
 };
 
 } // namespace shell

@@ -122,10 +122,11 @@ inline constexpr Constant kPlanItem = KESTRUNE_TEXT("App", "kPlanItem", "Prepaym
 inline constexpr Constant kPlanTitle = KESTRUNE_TEXT("PlanWindow", "kPlanTitle", "Plan: %1, %2 at %3 %, %4 payments");
 inline constexpr Constant kEventHeader =
     KESTRUNE_TEXT("PlanWindow", "kEventHeader", "Payment\tKind\tValue\tMode\tEvery");
-inline constexpr Constant kEventErrors =
-    KESTRUNE_TEXT("PlanWindow", "kEventErrors",
-                  "\tNot an event\tThe payment is outside the loan\tNot a number\tThe amount is negative\tEvery takes "
-                  "a count of payments");
+inline constexpr Constant kEventErrors = KESTRUNE_TEXT(
+    "PlanWindow", "kEventErrors",
+    "\tNot an event\tThe payment is outside the loan\tNot a number\tThe amount is negative\tEvery takes "
+    "a count of payments from 1 to the count\tThe amount is beyond 9,007,199,254,740,992\tWith this event "
+    "the plan's amounts go beyond 9,007,199,254,740,992");
 inline constexpr Constant kAddEvent = KESTRUNE_TEXT("PlanWindow", "kAddEvent", "&Add");
 inline constexpr Constant kRemoveEvent = KESTRUNE_TEXT("PlanWindow", "kRemoveEvent", "&Remove");
 inline constexpr Constant kCopySchedule = KESTRUNE_TEXT("PlanWindow", "kCopySchedule", "&Copy Schedule");
@@ -147,6 +148,17 @@ inline constexpr Constant kChartNames =
 inline constexpr Constant kPointer = KESTRUNE_TEXT("PlanWindow", "kPointer", "Payment %1, %2: %3");
 inline constexpr Constant kEventsTitle =
     KESTRUNE_TEXT("PlanWindow", "kEventsTitle", "Prepayments, rate changes and fees");
+inline constexpr Constant kSaveFailed = KESTRUNE_TEXT("PlanWindow", "kSaveFailed", "\"%1\" could not be saved: %2");
+inline constexpr Constant kPrintFailed = KESTRUNE_TEXT("PlanWindow", "kPrintFailed", "The plan could not be printed.");
+inline constexpr Constant kReportFailed =
+    KESTRUNE_TEXT("PlanWindow", "kReportFailed", "the report could not be written");
+inline constexpr Constant kWritingReport = KESTRUNE_TEXT("PlanWindow", "kWritingReport", "Writing the report...");
+inline constexpr Constant kCancel = KESTRUNE_TEXT("PlanWindow", "kCancel", "Cancel");
+inline constexpr Constant kPasteRefused =
+    KESTRUNE_TEXT("PlanWindow", "kPasteRefused", "The pasted text was not added: %1");
+inline constexpr Constant kLineTooLong =
+    KESTRUNE_TEXT("PlanWindow", "kLineTooLong", "line %1 is longer than %2 characters.");
+inline constexpr Constant kTooManyLines = KESTRUNE_TEXT("PlanWindow", "kTooManyLines", "it has more than %1 lines.");
 
 // AboutWindow
 inline constexpr Constant kCloseBtn = KESTRUNE_TEXT("AboutWindow", "kCloseBtn", "Close");
@@ -190,6 +202,10 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kTotalNames,     kYearsMonths,
                                           kNone,           kYearHeader,
                                           kChartNames,     kPointer,
-                                          kEventsTitle};
+                                          kEventsTitle,    kSaveFailed,
+                                          kPrintFailed,    kReportFailed,
+                                          kWritingReport,  kCancel,
+                                          kPasteRefused,   kLineTooLong,
+                                          kTooManyLines};
 
 } // namespace strings

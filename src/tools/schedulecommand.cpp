@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <fstream>
 #include <map>
 #include <optional>
@@ -48,13 +50,16 @@ them into the form. No field corrections are applied. Each option is given as
   --fee N:AMOUNT     a cost paid with payment N (a refinancing or prepayment fee)
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
                      "fee 61 330000"; blank lines and lines from # are skipped
-  --totals           after the table, the totals and, with events, the savings against the
-                     same loan without them
+  --totals           after the table (in tsv and csv after a blank line), the totals and, with
+                     events, the savings against the same loan without them
   --by-year          the figures of each calendar year instead of the rows
   -h, --help         print this text
 
+An events text holds at most {lines} lines of at most {length} characters.
+
 Exit status: 0 with the table printed; 1 when the calculation is refused (a zero principal,
-rate or count, or amounts beyond 2^53) or the output cannot be written; 2 for a bad option.
+rate or count, or amounts beyond 2^53) or the output cannot be written; 2 for a bad option,
+event or events file.
 )";
 
 // The usage with the defaults of a new form filled in.
@@ -65,7 +70,9 @@ std::string usage() {
                                                                {"{rate}", defaults.rate},
                                                                {"{times}", defaults.times},
                                                                {"{max}", std::to_string(engine::kMaxPayments)},
-                                                               {"{payday}", defaults.date.payDay}};
+                                                               {"{payday}", defaults.date.payDay},
+                                                               {"{lines}", std::to_string(engine::kMaxPlanLines)},
+                                                               {"{length}", std::to_string(engine::kMaxLineLength)}};
     for (const auto& [name, value] : values) text.replace(text.find(name), name.size(), value);
     return text;
 }
@@ -172,6 +179,22 @@ int usageError(std::ostream& err, const std::string& problem) {
     return 2;
 }
 
+// The event lines of an events file, or "-" for standard input; an error message where it can't
+// be read whole.
+std::string readEventsFile(const std::string& name, std::istream& in, std::vector<std::string>& lines) {
+    std::ifstream file;
+    if (name != "-") file.open(name);
+    std::istream& stream = name == "-" ? in : file;
+    const std::string cannot = "cannot read events from " + (name == "-" ? "standard input" : runtime::excerpt(name));
+    if (!stream) return cannot + ": " + std::strerror(errno);
+    errno = 0;
+    engine::PlanLines read = engine::readPlanLines(stream);
+    if (stream.bad()) return cannot + ": " + std::strerror(errno != 0 ? errno : EIO);
+    if (!read.error.empty()) return cannot + ": " + read.error;
+    lines.insert(lines.end(), std::make_move_iterator(read.lines.begin()), std::make_move_iterator(read.lines.end()));
+    return {};
+}
+
 } // namespace
 
 int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::istream& in,
@@ -212,7 +235,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         const bool known = texts.contains(option) || choices.contains(option) || option == "--year" ||
                            option == "--first" || option == "--last" || eventKinds.contains(option) ||
                            option == "--events";
-        if (!known) return usageError(err, "unknown option: " + option);
+        if (!known) return usageError(err, "unknown option: " + runtime::excerpt(option));
         if (equals == std::string::npos && i + 1 >= args.size()) return usageError(err, "missing value for " + option);
         const std::string value = equals == std::string::npos ? args[++i] : args[i].substr(equals + 1);
 
@@ -221,26 +244,20 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         } else if (const auto choice = choices.find(option); choice != choices.end()) {
             const auto& [names, target] = choice->second;
             const auto it = std::find(names->begin(), names->end(), value);
-            if (it == names->end()) return usageError(err, "bad value for " + option + ": " + value);
+            if (it == names->end()) return usageError(err, "bad value for " + option + ": " + runtime::excerpt(value));
             *target = static_cast<int>(it - names->begin());
         } else if (const auto kind = eventKinds.find(option); kind != eventKinds.end()) {
             eventLines.push_back(eventLineOf(kind->second, value));
         } else if (option == "--events") {
-            std::ifstream file;
-            if (value != "-") file.open(value);
-            if (value != "-" && !file) return usageError(err, "cannot read events from " + value);
-            std::istream& lines = value == "-" ? in : file;
-            for (std::string line; std::getline(lines, line);) {
-                const auto start = line.find_first_not_of(" \t\r");
-                if (start != std::string::npos && line[start] != '#') eventLines.push_back(line);
-            }
+            if (const std::string problem = readEventsFile(value, in, eventLines); !problem.empty())
+                return usageError(err, problem);
         } else if (option == "--year") {
             year = value;
         } else if (option == "--first") {
             listed.first = runtime::intVal(value);
         } else {
             const auto last = wholeNumber(value);
-            if (!last) return usageError(err, "--last takes a whole number: " + value);
+            if (!last) return usageError(err, "--last takes a whole number: " + runtime::excerpt(value));
             listed.last = *last < 0 ? -1 : *last;
         }
     }
@@ -248,6 +265,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     form.date.year = year ? *year : runtime::Str(calendar::yearInEra(form.era, today.Year()));
     form.flatPayment = method == 0;
 
+    if (eventLines.size() > engine::kMaxPlanLines)
+        return usageError(err, "more than " + std::to_string(engine::kMaxPlanLines) + " events");
     std::vector<engine::PlanEvent> events;
     for (const std::string& line : eventLines) {
         const auto reading = engine::readEvent(line, engine::readLoanForm(form).paymentCount);
@@ -257,13 +276,17 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const bool plan = !events.empty() || showTotals || byYear;
 
     // A plan counts all its payments, whatever rows are listed.
-    const engine::Calculation calc = engine::calculate(form, plan ? engine::ListedRange{} : listed, events);
-    if (calc.refusal == engine::Refusal::ZeroInput) {
-        err << "principal, rate and count must be non-zero\n";
+    const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events) : engine::PlanOutcome{};
+    const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed);
+    const engine::Refusal refusal = plan ? outcome.refusal : calc.refusal;
+    if (refusal == engine::Refusal::ZeroInput) {
+        err << "kestrune-schedule: principal, rate and count must be non-zero\n";
         return 1;
     }
-    if (calc.refusal == engine::Refusal::OutOfRange) {
-        err << "amounts out of range\n";
+    if (refusal == engine::Refusal::OutOfRange) {
+        err << "kestrune-schedule: amounts out of range";
+        if (outcome.refusedBy) err << " from the event: " << engine::eventLine(events[*outcome.refusedBy]);
+        err << '\n';
         return 1;
     }
     const int era = calc.terms.dateLine.era;
@@ -283,27 +306,28 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(withPrepaid);
     if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
 
-    const engine::PlanTotals totals = engine::planTotals(calc.payments);
+    const engine::PlanTotals& totals = outcome.totals;
     std::optional<engine::PlanSavings> savings;
-    if (!events.empty()) savings = engine::planSavings(engine::calculate(form).payments, calc.payments);
+    if (!events.empty()) savings = outcome.savings;
     const std::string payoff = calendar::payoffText(
         withPrepaid && !calc.payments.empty() ? totals.payoff : calc.record.dates.payoff, form.era, {});
     const auto lines = totalLines(totals, savings, form.era);
+    // The totals as rows of a name and a value, the name as a heading.
+    std::vector<table::Cells> totalRows{{}};
+    for (auto [name, value] : lines) {
+        name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+        totalRows.push_back({name, value});
+    }
+    if (!showTotals) totalRows.clear();
 
     switch (format) {
     case 0:
         if (!byYear) out << strings::kLabelText10.defaultText << ' ' << payoff << "\n\n";
         printAligned(header, rows, byYear ? std::size_t{2} : std::size_t{table::kAmount}, out);
-        if (showTotals) {
-            out << '\n';
-            for (auto [name, value] : lines) {
-                name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
-                out << name << ": " << value << '\n';
-            }
-        }
+        for (const table::Cells& row : totalRows) out << (row.empty() ? "" : row[0] + ": " + row[1]) << '\n';
         break;
-    case 1: out << table::toTsv({header}) << table::toTsv(rows); break;
-    case 2: out << table::toCsv({header}) << table::toCsv(rows); break;
+    case 1: out << table::toTsv({header}) << table::toTsv(rows) << table::toTsv(totalRows); break;
+    case 2: out << table::toCsv({header}) << table::toCsv(rows) << table::toCsv(totalRows); break;
     default:
         out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(header)
             << ", \"rows\": " << jsonArrays(byYear ? std::vector<table::Cells>{} : rows);

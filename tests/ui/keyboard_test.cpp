@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include "planner/planwindow.h"
 #include "shell/aboutwindow.h"
 #include "shell/helpwindow.h"
-#include "shell/planwindow.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -140,7 +140,7 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         expectNamedForAssistiveTechnology(shell::App::instance()->helpWindow(), language + " help window");
         expectNamedForAssistiveTechnology(shell::App::instance()->aboutWindow(), language + " About window");
         w->showPlan();
-        expectNamedForAssistiveTechnology(w->findChild<shell::PlanWindow*>(), language + " Plan window");
+        expectNamedForAssistiveTechnology(w->findChild<planner::PlanWindow*>(), language + " Plan window");
         EXPECT_EQ(w->menuBar()->actions().at(0)->text(), japanese ? "ファイル(&F)" : "&File");
         closeAllWindows();
     }

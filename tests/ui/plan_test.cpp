@@ -3,7 +3,7 @@
 // the schedule, totals and chart that follow, and the schedule as the tool prints it.
 #include "uitest.h"
 
-#include "shell/planwindow.h"
+#include "planner/planwindow.h"
 
 #include <QChartView>
 #include <QClipboard>
@@ -32,7 +32,7 @@ protected:
         form.flatPayment = true;
         setForm(form);
         QTest::keyClick(w, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-        plan = w->findChild<shell::PlanWindow*>();
+        plan = w->findChild<planner::PlanWindow*>();
         ASSERT_NE(plan, nullptr);
         QTest::qWait(10);
         showActive(plan);
@@ -56,7 +56,7 @@ protected:
         pclose(pipe);
         return out;
     }
-    shell::PlanWindow* plan = nullptr;
+    planner::PlanWindow* plan = nullptr;
 };
 
 TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
@@ -64,13 +64,13 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     EXPECT_EQ(plan->focusWidget(), plan->Events);
     EXPECT_EQ(figure(0), "420");
     QTest::keyClick(w, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(w->findChildren<shell::PlanWindow*>().size(), 1) << "raised, not opened again";
+    EXPECT_EQ(w->findChildren<planner::PlanWindow*>().size(), 1) << "raised, not opened again";
     engine::LoanForm form = w->loanForm();
     form.times = "360";
     setForm(form);
     EXPECT_EQ(plan->windowTitle(), "Plan: Flat payment, 30,000,000 at 1.5 %, 360 payments");
     EXPECT_EQ(figure(0), "360");
-    QPointer<shell::PlanWindow> open = plan;
+    QPointer<planner::PlanWindow> open = plan;
     w->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(open.isNull()) << "closed with its window";

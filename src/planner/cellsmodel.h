@@ -11,7 +11,7 @@
 
 #include <functional>
 
-namespace shell {
+namespace planner {
 
 class CellsModel : public QAbstractTableModel {
     Q_OBJECT
@@ -20,8 +20,9 @@ public:
 
     using RowTexts = std::function<table::Cells(std::size_t row)>;
     void setRows(QStringList headings, std::size_t count, RowTexts rowTexts);
-    // Every row, headings first: what is copied, saved and printed.
+    // Every row, headings first: what is copied and saved.
     std::vector<table::Cells> all() const;
+    const QStringList& headings() const { return m_headings; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -35,4 +36,4 @@ private:
     RowTexts m_rowTexts;
 };
 
-} // namespace shell
+} // namespace planner

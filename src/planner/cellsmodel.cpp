@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/cellsmodel.h"
+#include "planner/cellsmodel.h"
 
-namespace shell {
+namespace planner {
 
 void CellsModel::setRows(QStringList headings, std::size_t count, RowTexts rowTexts) {
     beginResetModel();
@@ -43,4 +43,4 @@ QVariant CellsModel::headerData(int section, Qt::Orientation orientation, int ro
     return QAbstractTableModel::headerData(section, orientation, role);
 }
 
-} // namespace shell
+} // namespace planner

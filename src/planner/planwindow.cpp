@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "shell/planwindow.h"
+#include "planner/planwindow.h"
 
 #include "engine/calculation.h"
 #include "form/amountfields.h"
+#include "planner/cellsmodel.h"
+#include "planner/report.h"
+#include "planner/savefile.h"
 #include "runtime/numbers.h"
-#include "shell/cellsmodel.h"
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
 #include "table/export.h"
@@ -24,19 +26,22 @@
 #include <QLabel>
 #include <QLineSeries>
 #include <QMimeData>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QValueAxis>
 
-namespace shell {
+#include <sstream>
+
+namespace planner {
 namespace {
 
 using strings::text;
@@ -68,7 +73,7 @@ QDateTime dateTime(const calendar::Date& date) {
 
 } // namespace
 
-PlanWindow::PlanWindow(MainWindow* main)
+PlanWindow::PlanWindow(shell::MainWindow* main)
     : QWidget(main, Qt::Window), m_main(main), m_schedule(new CellsModel(table::kAmount, this)),
       m_years(new CellsModel(3, this)) {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -106,12 +111,12 @@ PlanWindow::PlanWindow(MainWindow* main)
     CopyButton = button(strings::kCopySchedule, &PlanWindow::copySchedule);
     CsvButton = button(strings::kSaveCsv, [this] {
         const QString path = QFileDialog::getSaveFileName(this, text(strings::kSaveCsv), "schedule.csv", "CSV (*.csv)");
-        if (!path.isEmpty() && !saveCsv(path)) QApplication::beep();
+        if (!path.isEmpty()) saveCsv(path);
     });
     PrintButton = button(strings::kPrint, &PlanWindow::print);
     PdfButton = button(strings::kExportPdf, [this] {
         const QString path = QFileDialog::getSaveFileName(this, text(strings::kExportPdf), "plan.pdf", "PDF (*.pdf)");
-        if (!path.isEmpty() && !exportPdf(path)) QApplication::beep();
+        if (!path.isEmpty()) exportPdf(path);
     });
     // Copy Schedule answers its key wherever the focus is in this window.
     auto* copyScheduleKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this);
@@ -165,14 +170,15 @@ PlanWindow::PlanWindow(MainWindow* main)
     layout->addWidget(tabs, 5);
     layout->addLayout(bottom);
 
-    connect(main, &MainWindow::calculated, this, &PlanWindow::recalculate);
+    connect(main, &shell::MainWindow::calculated, this, &PlanWindow::recalculate);
     recalculate();
 }
 
-std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount) {
+std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount, std::optional<int> refusedRow) {
     m_reading = true;
     const QStringList reasons = strings::fields(strings::kEventErrors, '\t');
     std::vector<engine::PlanEvent> events;
+    m_eventRows.clear();
     for (int row = 0; row < Events->rowCount(); ++row) {
         const auto cell = [this, row](int column) {
             const QTableWidgetItem* item = Events->item(row, column);
@@ -182,18 +188,27 @@ std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount)
         if (cell(kKind) == "prepay") line += " " + (cell(kMode).isEmpty() ? kModes[0] : cell(kMode));
         if (cell(kKind) == "prepay" && !cell(kEvery).isEmpty()) line += " every " + cell(kEvery);
         const engine::EventReading reading = engine::readEvent(line.toStdString(), paymentCount);
-        if (reading.event) events.push_back(*reading.event);
-        for (int column = 0; column < Events->columnCount(); ++column) {
-            if (!Events->item(row, column)) Events->setItem(row, column, new QTableWidgetItem);
-            QTableWidgetItem* item = Events->item(row, column);
-            const QBrush mark = reading.event ? QBrush() : QBrush(QColor(255, 210, 210));
-            if (item->background() != mark) item->setBackground(mark);
-            const QString why = reasons.value(static_cast<int>(reading.code));
-            if (item->toolTip() != why) item->setToolTip(why);
+        if (reading.event) {
+            events.push_back(*reading.event);
+            m_eventRows.push_back(row);
         }
+        // The last reason is the plan's refusal, for the row of the event that causes it.
+        markRow(row, reading.event && row != refusedRow ? QString()
+                     : reading.event                    ? reasons.value(reasons.size() - 1)
+                                                        : reasons.value(static_cast<int>(reading.code)));
     }
     m_reading = false;
     return events;
+}
+
+void PlanWindow::markRow(int row, const QString& why) {
+    const QBrush mark = why.isEmpty() ? QBrush() : QBrush(QColor(255, 210, 210));
+    for (int column = 0; column < Events->columnCount(); ++column) {
+        if (!Events->item(row, column)) Events->setItem(row, column, new QTableWidgetItem);
+        QTableWidgetItem* item = Events->item(row, column);
+        if (item->background() != mark) item->setBackground(mark);
+        if (item->toolTip() != why) item->setToolTip(why);
+    }
 }
 
 void PlanWindow::recalculate() {
@@ -204,11 +219,15 @@ void PlanWindow::recalculate() {
     setWindowTitle(text(strings::kPlanTitle)
                        .arg(method, qs(form::principalForDisplay(form.principal)), qs(form::plainNumber(form.rate)),
                             qs(runtime::Str(terms.paymentCount))));
-    const auto events = readEvents(terms.paymentCount);
-    const engine::Calculation plan = engine::calculate(form, {}, events);
-    const engine::Calculation base = engine::calculate(form);
-    if (plan.refusal != engine::Refusal::None || base.refusal != engine::Refusal::None) return;
-    m_payments = plan.payments;
+    auto events = readEvents(terms.paymentCount);
+    const engine::PlanOutcome outcome = engine::evaluatePlan(form, events);
+    if (outcome.refusedBy) {
+        m_reading = true;
+        markRow(m_eventRows[*outcome.refusedBy], strings::fields(strings::kEventErrors, '\t').last());
+        m_reading = false;
+    }
+    // A refused plan shows no figures, rather than those of the plan before.
+    m_payments = outcome.refusal == engine::Refusal::None ? outcome.plan.payments : std::vector<engine::Payment>{};
 
     const int era = terms.dateLine.era;
     QStringList headings = strings::fields(strings::kHeader, '\t');
@@ -218,20 +237,24 @@ void PlanWindow::recalculate() {
     m_schedule->setRows(headings, m_payments.size(),
                         [this](std::size_t row) { return table::planRowText(m_payments[row], m_era, m_payDay); });
     auto years = std::make_shared<std::vector<table::Cells>>(
-        table::yearRowTexts(m_payments, era, m_payDay, MainWindow::payoffWords().eraNames));
+        table::yearRowTexts(m_payments, era, m_payDay, shell::MainWindow::payoffWords().eraNames));
     m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
                      [years](std::size_t row) { return (*years)[row]; });
-    showFigures(plan.payments, base.payments, form.era);
-    drawChart(plan.payments, base.payments);
+    showFigures(outcome, form.era);
+    drawChart(m_payments,
+              outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
 }
 
-void PlanWindow::showFigures(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base,
-                             int era) {
+void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
+    if (outcome.refusal != engine::Refusal::None) {
+        for (QLabel* figure : Figures) figure->clear();
+        return;
+    }
     const auto amount = [](double value) { return qs(runtime::Format(value, table::kAmountMask)); };
     const calendar::PayoffWords words = m_main->payoffWords();
     const auto date = [&](const calendar::Date& d) { return qs(calendar::payoffText(d, era, words)); };
-    const engine::PlanTotals totals = engine::planTotals(plan);
-    const engine::PlanSavings savings = engine::planSavings(base, plan);
+    const engine::PlanTotals& totals = outcome.totals;
+    const engine::PlanSavings& savings = outcome.savings;
     const std::int64_t saved = savings.paymentsSaved;
     const QString breakEven =
         savings.breakEven ? QString::number(*savings.breakEven) + " (" + date(savings.breakEvenDate).trimmed() + ")"
@@ -372,10 +395,19 @@ void PlanWindow::copyEvents() const {
 }
 
 void PlanWindow::pasteEvents() {
+    std::istringstream pasted(QGuiApplication::clipboard()->text().toStdString());
+    const engine::PlanLines read = engine::readPlanLines(pasted);
+    if (read.problem != engine::PlanLines::None) {
+        const QString why =
+            read.problem == engine::PlanLines::LineTooLong
+                ? text(strings::kLineTooLong).arg(read.line).arg(engine::kMaxLineLength)
+                : text(strings::kTooManyLines).arg(QLocale().toString(qulonglong{engine::kMaxPlanLines}));
+        warn(this, text(strings::kPasteRefused).arg(why));
+        return;
+    }
     m_reading = true;
-    for (const QString& line : QGuiApplication::clipboard()->text().split('\n')) {
-        QStringList words = line.simplified().split(' ', Qt::SkipEmptyParts);
-        if (words.isEmpty() || words.front().startsWith('#')) continue;
+    for (const std::string& line : read.lines) {
+        QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
         QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
         for (int i = 3; i < words.size(); ++i) {
             if (words[i] == "every")
@@ -400,63 +432,82 @@ void PlanWindow::copySchedule() const {
     QGuiApplication::clipboard()->setMimeData(mime);
 }
 
-bool PlanWindow::saveCsv(const QString& path) const {
-    QFile file(path);
+bool PlanWindow::saveCsv(const QString& path) {
     const QByteArray csv = QByteArray::fromStdString(table::toCsv(m_schedule->all()));
-    return file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size();
+    const SaveResult result = saveWhole(path, [&csv](QIODevice& file) {
+        file.write(csv);
+        return true;
+    });
+    if (!result.saved) showSaveError(this, path, result.error);
+    return result.saved;
 }
 
-std::unique_ptr<QTextDocument> PlanWindow::document() const {
-    auto document = std::make_unique<QTextDocument>();
-    QString html = "<h2>" + windowTitle().toHtmlEscaped() + "</h2><p>";
+PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
+    ReportContent content;
+    content.title = windowTitle();
+    content.events.headings = strings::fields(strings::kEventHeader, '\t');
+    std::vector<table::Cells> events;
     for (int row = 0; row < Events->rowCount(); ++row) {
-        QStringList cells;
+        table::Cells& cells = events.emplace_back();
         for (int column = 0; column < Events->columnCount(); ++column)
-            cells << (Events->item(row, column) ? Events->item(row, column)->text() : QString());
-        html += cells.join(' ').toHtmlEscaped() + "<br>";
+            cells.push_back(Events->item(row, column) ? Events->item(row, column)->text().toStdString() : "");
     }
-    html += "</p><table cellpadding=2>";
+    content.events.rowCount = events.size();
+    content.events.row = [events](std::size_t row) { return events[row]; };
+    content.events.firstAmount = kValue;
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
     for (std::size_t i = 0; i < Figures.size(); ++i)
-        html += "<tr><td>" + names.value(static_cast<int>(i)).toHtmlEscaped() + "</td><td align=right>" +
-                Figures[i]->text().toHtmlEscaped() + "</td></tr>";
-    html += "</table><p><img src=\"chart.png\" width=600></p>";
-    // The schedule, its headings repeated at the top of each page.
-    const std::vector<table::Cells> all = m_schedule->all();
-    html += "<table border=1 cellspacing=0 cellpadding=2><thead><tr>";
-    for (const auto& heading : all.front()) html += "<th>" + qs(heading).toHtmlEscaped() + "</th>";
-    html += "</tr></thead>";
-    for (const auto& row : std::vector<table::Cells>(all.begin() + 1, all.end())) {
-        html += "<tr>";
-        for (std::size_t c = 0; c < row.size(); ++c)
-            html += QString(c >= table::kAmount ? "<td align=right>" : "<td align=center>") + qs(row[c]) + "</td>";
-        html += "</tr>";
-    }
-    html += "</table>";
-    QPixmap chart(900, 500);
-    chart.fill(Qt::white);
-    QPainter painter(&chart);
-    Chart->render(&painter);
-    painter.end();
-    document->addResource(QTextDocument::ImageResource, QUrl("chart.png"), chart.toImage());
-    document->setHtml(html);
-    return document;
+        content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
+    content.chart = QImage(900, 500, QImage::Format_RGB32);
+    content.chart.fill(Qt::white);
+    QPainter chart(&content.chart);
+    Chart->render(&chart);
+    chart.end();
+    // The report keeps its own copy of the rows: the window may recalculate while it is painted.
+    auto payments = std::make_shared<const std::vector<engine::Payment>>(m_payments);
+    content.schedule.headings = m_schedule->headings();
+    content.schedule.rowCount = payments->size();
+    content.schedule.row = [payments, era = m_era, payDay = m_payDay](std::size_t row) {
+        return table::planRowText((*payments)[row], era, payDay);
+    };
+    content.schedule.firstAmount = table::kAmount;
+
+    QProgressDialog progress(text(strings::kWritingReport), text(strings::kCancel), 0,
+                             static_cast<int>(payments->size()), this);
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(300);
+    const Painted painted = planner::paintReport(device, content, [&progress](std::size_t done, std::size_t) {
+        progress.setValue(static_cast<int>(done));
+        return !progress.wasCanceled();
+    });
+    return painted == Painted::Done        ? Outcome::Done
+           : painted == Painted::Cancelled ? Outcome::Cancelled
+                                           : Outcome::Failed;
 }
 
-bool PlanWindow::exportPdf(const QString& path) const {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    document()->print(&printer);
-    return QFile::exists(path);
+bool PlanWindow::exportPdf(const QString& path) {
+    Outcome painted = Outcome::Done;
+    SaveResult result = saveWhole(path, [&](QIODevice& file) {
+        QPdfWriter writer(&file);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setResolution(300);
+        writer.setTitle(windowTitle());
+        writer.setCreator(text(strings::kAppName));
+        painted = paintReport(writer);
+        return painted == Outcome::Done;
+    });
+    if (painted == Outcome::Failed) result.error = text(strings::kReportFailed);
+    if (!result.saved && painted != Outcome::Cancelled) showSaveError(this, path, result.error);
+    return result.saved;
 }
 
 void PlanWindow::print() {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPrintDialog dialog(&printer, this);
-    if (dialog.exec() == QDialog::Accepted) document()->print(&printer);
+    if (dialog.exec() != QDialog::Accepted) return;
+    if (paintReport(printer) == Outcome::Failed || printer.printerState() == QPrinter::Error)
+        warn(this, text(strings::kPrintFailed));
 }
 
-} // namespace shell
+} // namespace planner

@@ -13,18 +13,21 @@ class QChartView;
 class QLabel;
 class QPushButton;
 class QTableView;
+class QPagedPaintDevice;
 class QTableWidget;
-class QTextDocument;
 
 namespace shell {
+class MainWindow;
+}
+
+namespace planner {
 
 class CellsModel;
-class MainWindow;
 
 class PlanWindow : public QWidget {
     Q_OBJECT
 public:
-    explicit PlanWindow(MainWindow* main);
+    explicit PlanWindow(shell::MainWindow* main);
 
     // The plan anew from the main window's form and the events of the list.
     void recalculate();
@@ -35,8 +38,9 @@ public:
     void pasteEvents();
     // The whole schedule, headings and every row, for a spreadsheet.
     void copySchedule() const;
-    bool saveCsv(const QString& path) const;
-    bool exportPdf(const QString& path) const;
+    // Saved whole or not at all; a failure is told in a message that names the file.
+    bool saveCsv(const QString& path);
+    bool exportPdf(const QString& path);
 
     QTableWidget* Events;
     QTableView* Schedule;
@@ -49,20 +53,25 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // The events the list holds; a row the plan can't use is marked with the reason.
-    std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount);
-    void showFigures(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base, int era);
+    // The events the list holds, with the row of each; a row the plan can't use is marked with
+    // the reason, and so is the row whose event makes the plan refused.
+    std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount, std::optional<int> refusedRow = {});
+    void markRow(int row, const QString& why);
+    void showFigures(const engine::PlanOutcome& outcome, int era);
     void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
     void print();
-    std::unique_ptr<QTextDocument> document() const;
+    // Paints the report with a progress dialog that can cancel it.
+    enum class Outcome { Done, Cancelled, Failed };
+    Outcome paintReport(QPagedPaintDevice& device);
 
-    QPointer<MainWindow> m_main;
+    QPointer<shell::MainWindow> m_main;
     CellsModel* m_schedule;
     CellsModel* m_years;
     std::vector<engine::Payment> m_payments;
-    int m_era = 0;             // of the form, for the date column
-    std::int64_t m_payDay = 0; // as the form reads it
+    std::vector<int> m_eventRows; // the list's row of each event read
+    int m_era = 0;                // of the form, for the date column
+    std::int64_t m_payDay = 0;    // as the form reads it
     bool m_reading = false;
 };
 
-} // namespace shell
+} // namespace planner
