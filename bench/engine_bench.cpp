@@ -61,4 +61,16 @@ void PlanWithEvents(benchmark::State& state) {
 }
 BENCHMARK(PlanWithEvents)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
+// Recurring prepayments on 100,000 payments, each from its own payment: the lines repeat one
+// period (as 1,000 or 10,000 lines "prepay K 1 every 1") or spread over twelve.
+void RecurringEvents(benchmark::State& state) {
+    engine::LoanForm form = loan(100'000, true);
+    form.principal = "9,000,000,000,000";
+    std::vector<engine::PlanEvent> events;
+    for (std::int64_t k = 1; k <= state.range(0); ++k)
+        events.push_back({engine::EventKind::Prepay, k, 1.0, engine::PrepayMode::Shorten, 1 + k % state.range(1)});
+    for (auto _ : state) benchmark::DoNotOptimize(engine::evaluatePlan(form, events));
+}
+BENCHMARK(RecurringEvents)->Args({1'000, 1})->Args({10'000, 1})->Args({10'000, 12})->Unit(benchmark::kMillisecond);
+
 } // namespace

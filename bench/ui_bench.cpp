@@ -10,6 +10,8 @@
 #include "shell/mainwindow.h"
 
 #include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTableWidget>
 
@@ -20,6 +22,7 @@
 #include <chrono>
 #include <fstream>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -107,6 +110,28 @@ void PlanEventEdit(benchmark::State& state) {
     delete window;
 }
 BENCHMARK(PlanEventEdit)->Args({144, 1})->Args({100'000, 1'000})->Unit(benchmark::kMillisecond);
+
+// The Plan window's report of a loan of that many payments exported as PDF: its time, the
+// file's size and the process's peak memory.
+void ExportPdf(benchmark::State& state) {
+    auto* window = new shell::MainWindow;
+    window->show();
+    window->Kaisu->setText(QString::number(state.range(0)));
+    window->Nenriritsu->setText("0.5");
+    window->CulcButton->Push();
+    window->showPlan();
+    auto* plan = window->findChild<planner::PlanWindow*>();
+    const QString path = QDir::temp().filePath("kestrune-bench.pdf");
+    for (auto _ : state)
+        if (!plan->exportPdf(path)) state.SkipWithError("the PDF was not written");
+    state.counters["file_MB"] = static_cast<double>(QFileInfo(path).size()) / 1e6;
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    state.counters["peak_MB"] = static_cast<double>(usage.ru_maxrss) / 1e3;
+    QFile::remove(path);
+    delete window;
+}
+BENCHMARK(ExportPdf)->Arg(1'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 

@@ -90,6 +90,17 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--rate", 2, "kestrune-schedule: missing value for --rate\n"},
         {"--prepay 145:100", 2, "kestrune-schedule: bad event: payment outside 1 to the count: prepay 145 100\n"},
         {"--fee 3:-5", 2, "kestrune-schedule: bad event: negative amount: fee 3 -5\n"},
+        {"--prepay 1:1000:every=9223372036854775807", 2,
+         "kestrune-schedule: bad event: every takes a count of payments from 1 to the count: prepay 1 1000 every "
+         "9223372036854775807\n"},
+        {"--events /dev/zero", 2,
+         "kestrune-schedule: cannot read events from /dev/zero: line 1 is longer than 1,000 characters\n"},
+        {"--events /", 2, "kestrune-schedule: cannot read events from /: Is a directory\n"},
+        {"--events /nonexistent", 2,
+         "kestrune-schedule: cannot read events from /nonexistent: No such file or directory\n"},
+        {"--principal 9007199254740993", 1, "kestrune-schedule: amounts out of range\n"},
+        {"--rate-change 2:1e300", 1, "kestrune-schedule: amounts out of range from the event: rate 2 1e+300\n"},
+        {"--era \"$(printf '\\033[31mred')\"", 2, "kestrune-schedule: bad value for --era: ?[31mred\n"},
         {"--times 100000 --format csv > /dev/full", 1,
          "kestrune-schedule: cannot write output: No space left on device\n"},
         {">&-", 1, "kestrune-schedule: cannot write output: Bad file descriptor\n"},
@@ -101,6 +112,25 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         EXPECT_EQ(r.out, "") << c.args;
     }
     EXPECT_EQ(run("--times 100000", "| head -c 10 > /dev/null").err, "") << "a closed pipe is no error to report";
+}
+
+TEST(ScheduleTool, TotalsFollowTheRowsOfASpreadsheet) {
+    // 24 days at 1.5 %: Round(1,200,000 x 0.015 / 365.2422 x 24) = 1,183; the prepayment of 100,000
+    // with payment 2 lowers the payment to the annuity of 700,663 over 4 months.
+    EXPECT_EQ(run(kLoan2020 + "--principal 1,200,000 --rate 1.5 --times 6 --prepay 2:100,000:reduce --fee 3:5,000 "
+                              "--totals --format csv")
+                  .out,
+              "No.,Repayment,Amount,Principal,Interest,Prepaid,Balance\r\n"
+              "001,20.04.08,\"200,876\",\"199,693\",\"1,183\",0,\"1,000,307\"\r\n"
+              "002,20.05.08,\"200,876\",\"199,644\",\"1,232\",\"100,000\",\"700,663\"\r\n"
+              "003,20.06.08,\"175,713\",\"174,821\",892,0,\"525,842\"\r\n"
+              "004,20.07.08,\"175,713\",\"175,065\",648,0,\"350,777\"\r\n"
+              "005,20.08.08,\"175,713\",\"175,266\",447,0,\"175,511\"\r\n"
+              "006,20.09.08,\"175,734\",\"175,511\",223,0,0\r\n"
+              "\r\n"
+              "Payments,6\r\nPaid,\"1,209,625\"\r\nPrincipal,\"1,100,000\"\r\nInterest,\"4,625\"\r\n"
+              "Prepaid,\"100,000\"\r\nFees,\"5,000\"\r\nPayoff,2020 / 9 / 8 \r\nInterest saved,314\r\n"
+              "Payments saved,0 (0 years 0 months)\r\nNet saving,\"-4,686\"\r\nBreak-even payment,none\r\n");
 }
 
 TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {

@@ -12,6 +12,7 @@
 #include "table/export.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QChartView>
 #include <QClipboard>
 #include <QComboBox>
@@ -20,6 +21,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFormLayout>
+#include <QGraphicsScene>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -434,12 +436,9 @@ void PlanWindow::copySchedule() const {
 
 bool PlanWindow::saveCsv(const QString& path) {
     const QByteArray csv = QByteArray::fromStdString(table::toCsv(m_schedule->all()));
-    const SaveResult result = saveWhole(path, [&csv](QIODevice& file) {
-        file.write(csv);
-        return true;
-    });
-    if (!result.saved) showSaveError(this, path, result.error);
-    return result.saved;
+    const QString error = saveWhole(path, csv);
+    if (!error.isEmpty()) showSaveError(this, path, error);
+    return error.isEmpty();
 }
 
 PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
@@ -458,11 +457,17 @@ PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
     for (std::size_t i = 0; i < Figures.size(); ++i)
         content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
-    content.chart = QImage(900, 500, QImage::Format_RGB32);
+    // The chart at the report's size, whatever size the view has (or had, where it was never shown).
+    content.chart = QImage(1800, 1000, QImage::Format_RGB32);
     content.chart.fill(Qt::white);
-    QPainter chart(&content.chart);
-    Chart->render(&chart);
-    chart.end();
+    QChart* chart = Chart->chart();
+    const QSizeF shown = chart->size();
+    chart->resize(content.chart.size());
+    QPainter painter(&content.chart);
+    painter.setRenderHint(QPainter::Antialiasing);
+    chart->scene()->render(&painter, content.chart.rect(), QRectF(QPointF(), chart->size()));
+    painter.end();
+    chart->resize(shown);
     // The report keeps its own copy of the rows: the window may recalculate while it is painted.
     auto payments = std::make_shared<const std::vector<engine::Payment>>(m_payments);
     content.schedule.headings = m_schedule->headings();
@@ -486,19 +491,20 @@ PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
 }
 
 bool PlanWindow::exportPdf(const QString& path) {
-    Outcome painted = Outcome::Done;
-    SaveResult result = saveWhole(path, [&](QIODevice& file) {
-        QPdfWriter writer(&file);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setResolution(300);
-        writer.setTitle(windowTitle());
-        writer.setCreator(text(strings::kAppName));
-        painted = paintReport(writer);
-        return painted == Outcome::Done;
-    });
-    if (painted == Outcome::Failed) result.error = text(strings::kReportFailed);
-    if (!result.saved && painted != Outcome::Cancelled) showSaveError(this, path, result.error);
-    return result.saved;
+    // Painted whole before any file is touched: a cancel leaves none.
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setResolution(300);
+    writer.setTitle(windowTitle());
+    writer.setCreator(text(strings::kAppName));
+    const Outcome painted = paintReport(writer);
+    if (painted == Outcome::Cancelled) return false;
+    const QString error = painted == Outcome::Failed ? text(strings::kReportFailed) : saveWhole(path, pdf);
+    if (!error.isEmpty()) showSaveError(this, path, error);
+    return error.isEmpty();
 }
 
 void PlanWindow::print() {

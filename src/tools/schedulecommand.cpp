@@ -186,7 +186,7 @@ std::string readEventsFile(const std::string& name, std::istream& in, std::vecto
     if (name != "-") file.open(name);
     std::istream& stream = name == "-" ? in : file;
     const std::string cannot = "cannot read events from " + (name == "-" ? "standard input" : runtime::excerpt(name));
-    if (!stream) return cannot + ": " + std::strerror(errno);
+    if (name != "-" && !file) return cannot + ": " + std::strerror(errno);
     errno = 0;
     engine::PlanLines read = engine::readPlanLines(stream);
     if (stream.bad()) return cannot + ": " + std::strerror(errno != 0 ? errno : EIO);

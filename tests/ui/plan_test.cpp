@@ -7,8 +7,10 @@
 
 #include <QChartView>
 #include <QClipboard>
+#include <QDir>
 #include <QLabel>
 #include <QLineSeries>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTableView>
 #include <QTableWidget>
@@ -44,6 +46,13 @@ protected:
         QTest::keyClick(plan->Events, Qt::Key_V, Qt::ControlModifier);
     }
     QString figure(int i) const { return plan->Figures.at(static_cast<std::size_t>(i))->text(); }
+    // The amounts of a row of the schedule, a blank apart.
+    std::string row(int r) const {
+        QStringList cells;
+        for (int c = table::kAmount; c < plan->Schedule->model()->columnCount(); ++c)
+            cells << plan->Schedule->model()->index(r, c).data().toString();
+        return cells.join(' ').toStdString();
+    }
     // What kestrune-schedule prints for the same loan and events, as TSV.
     static std::string tool(const std::string& events) {
         const std::string command = std::string(KESTRUNE_SCHEDULE) +
@@ -129,21 +138,130 @@ TEST_F(PlanTest, TheScheduleIsTheToolsForEitherMethod) {
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() == expected);
 }
 
-TEST_F(PlanTest, SavesCsvAndExportsAPaginatedPdf) {
-    paste("prepay 12 500000 reduce every 12\n");
+// What a failed save tells: the message of the window, then closed; empty where none.
+QString message(QWidget* window) {
+    auto* box = window->findChild<QMessageBox*>();
+    if (!box) return {};
+    const QString said = box->text();
+    delete box;
+    return said;
+}
+
+std::string slurp(const QString& path) {
+    std::ifstream in(path.toStdString(), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+TEST_F(PlanTest, TheReportSaysTheLoanItsEventsTotalsAndEveryPayment) {
+    paste("prepay 12 500000 reduce every 12\nfee 13 1,000\n");
     QTemporaryDir dir;
     ASSERT_TRUE(plan->saveCsv(dir.filePath("plan.csv")));
-    std::ifstream csv(dir.filePath("plan.csv").toStdString());
-    std::string heading;
-    std::getline(csv, heading);
-    EXPECT_EQ(heading, "No.,Repayment,Amount,Principal,Interest,Prepaid,Balance\r");
+    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) ==
+                tool("--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
-    std::ifstream pdf(dir.filePath("plan.pdf").toStdString(), std::ios::binary);
-    const std::string bytes((std::istreambuf_iterator<char>(pdf)), {});
-    std::size_t pages = 0;
-    for (auto at = bytes.find("/Type /Page\n"); at != std::string::npos; at = bytes.find("/Type /Page\n", at + 1))
-        ++pages;
-    EXPECT_GT(pages, 1u);
+    EXPECT_EQ(message(plan), "");
+    // Its text as pdftotext reads it, each line's words one blank apart.
+    FILE* pipe = popen(("pdftotext -layout " + dir.filePath("plan.pdf").toStdString() + " -").c_str(), "r");
+    std::string text, line;
+    for (int c; (c = std::fgetc(pipe)) != EOF;) {
+        if (c != '\n') {
+            line += static_cast<char>(c);
+            continue;
+        }
+        text += QString::fromStdString(line).simplified().toStdString() + "\n";
+        line.clear();
+    }
+    pclose(pipe);
+    const std::string expected[] = {
+        "Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments\n",
+        "Payment Kind Value Mode Every\n12 prepay 500000 reduce 12\n13 fee 1,000\n",
+        "Total interest " + figure(2).toStdString() + "\n",
+        "Break-even payment " + figure(9).toStdString() + "\n",
+        "No. Repayment Amount Principal Interest Prepaid Balance\n001 20.04.08 91,855 62,286 29,569 0 29,937,714\n",
+        "360 50.03.08 " + row(359) + "\n", // the last payment: the prepayments clear the loan
+    };
+    for (const std::string& part : expected) EXPECT_NE(text.find(part), std::string::npos) << part << "\nin\n" << text;
+}
+
+// A small file system of its own, full after a few kilobytes, or read-only, with a device that is
+// always full; skipped where this process may not mount one.
+class SmallDisk {
+public:
+    explicit SmallDisk(const char* options) : m_path(m_dir.path()) {
+        m_mounted =
+            std::system(("mount -t tmpfs -o size=16k tmpfs " + m_path.toStdString() + " 2>/dev/null").c_str()) == 0;
+        // A device of its own that is always full, as /dev/full, which a fault must never replace.
+        if (m_mounted) m_mounted = std::system(("mknod " + m_path.toStdString() + "/full c 1 7").c_str()) == 0;
+        if (m_mounted && std::string(options) == "ro") {
+            std::ofstream(m_path.toStdString() + "/plan.csv") << "old";
+            std::ofstream(m_path.toStdString() + "/plan.pdf") << "old";
+            m_mounted = std::system(("mount -o remount,ro " + m_path.toStdString()).c_str()) == 0;
+        }
+    }
+    ~SmallDisk() {
+        if (m_mounted) std::system(("umount " + m_path.toStdString()).c_str());
+    }
+    bool mounted() const { return m_mounted; }
+    QString file(const char* name) const { return m_path + "/" + name; }
+    QStringList entries() const { return QDir(m_path).entryList(QDir::Files | QDir::Hidden); }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_path;
+    bool m_mounted = false;
+};
+
+TEST_F(PlanTest, AFailedSaveIsToldAndLeavesNoPartOfAFile) {
+    paste("prepay 12 500000 reduce every 12\n");
+    const SmallDisk full("rw"), readOnly("ro");
+    if (!full.mounted() || !readOnly.mounted()) GTEST_SKIP() << "no file system of our own can be mounted here";
+    struct Case {
+        QString path;
+        bool pdf;
+        QString reason;
+        QStringList left; // the files of its folder afterwards
+    };
+    const Case cases[] = {
+        {full.file("plan.csv"), false, "No space left on device", {}},
+        {full.file("plan.pdf"), true, "No space left on device", {}},
+        {readOnly.file("plan.csv"), false, "is not writable", {"plan.csv", "plan.pdf"}},
+        {readOnly.file("plan.pdf"), true, "is not writable", {"plan.csv", "plan.pdf"}},
+        {full.file("full"), false, "No space left on device", {}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_FALSE(c.pdf ? plan->exportPdf(c.path) : plan->saveCsv(c.path)) << c.path.toStdString();
+        const QString said = message(plan);
+        EXPECT_TRUE(said.startsWith("\"" + c.path + "\" could not be saved: ")) << said.toStdString();
+        EXPECT_TRUE(said.contains(c.reason, Qt::CaseInsensitive)) << said.toStdString();
+        EXPECT_EQ((c.left.isEmpty() ? full : readOnly).entries(), c.left) << c.path.toStdString();
+    }
+    EXPECT_EQ(slurp(readOnly.file("plan.csv")), "old");
+}
+
+TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
+    paste("prepay 12 500000\nrate 2 1e300\n");
+    const QString why = "With this event the plan's amounts go beyond 9,007,199,254,740,992";
+    EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), why);
+    EXPECT_EQ(plan->Events->item(1, 0)->background().color(), QColor(255, 210, 210));
+    EXPECT_EQ(plan->Events->item(0, 0)->toolTip(), "");
+    EXPECT_EQ(plan->Events->item(0, 0)->background(), QBrush());
+    EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
+    EXPECT_EQ(figure(0), "");
+    plan->Events->item(1, 2)->setText("2");
+    EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), "");
+    EXPECT_EQ(figure(0), "411");
+}
+
+TEST_F(PlanTest, AnOversizedPasteIsRefusedWithItsReason) {
+    const std::pair<QString, QString> cases[] = {
+        {QString("prepay 1 1\n").repeated(100'001), "it has more than 100,000 lines."},
+        {"fee 1 1\n" + QString(1001, 'x'), "line 2 is longer than 1000 characters."},
+    };
+    for (const auto& [text, why] : cases) {
+        paste(text.toUtf8().constData());
+        EXPECT_EQ(message(plan), "The pasted text was not added: " + why);
+        EXPECT_EQ(plan->Events->rowCount(), 0);
+    }
 }
 
 } // namespace

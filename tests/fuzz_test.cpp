@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The schedule tool's reading fed random and hostile options and events texts, in-process so that
+// the sanitizer build stops on any undefined behaviour. A fixed seed and count in CI;
+// KESTRUNE_FUZZ_RUNS and KESTRUNE_FUZZ_SEED run it longer or elsewhere.
+#include "tools/schedulecommand.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+#include <sstream>
+
+namespace {
+
+std::uint64_t setting(const char* name, std::uint64_t fallback) {
+    const char* value = std::getenv(name);
+    return value ? std::strtoull(value, nullptr, 10) : fallback;
+}
+
+class Inputs {
+public:
+    explicit Inputs(std::uint64_t seed) : m_random(seed) {}
+
+    // A word as a user, a script or an attacker might give it.
+    std::string word() {
+        static const char* const kWords[] = {"0",
+                                             "1",
+                                             "-1",
+                                             "12",
+                                             "144",
+                                             "420",
+                                             "100000",
+                                             "100001",
+                                             "1.5",
+                                             "0.0001",
+                                             "1e300",
+                                             "-1e300",
+                                             "1e-300",
+                                             "9007199254740992",
+                                             "9007199254740993",
+                                             "9223372036854775807",
+                                             "-9223372036854775808",
+                                             "99999999999999999999",
+                                             "30,000,000",
+                                             ",5",
+                                             "1.",
+                                             ".",
+                                             "nan",
+                                             "inf",
+                                             "",
+                                             " ",
+                                             "reduce",
+                                             "shorten",
+                                             "every",
+                                             "prepay",
+                                             "rate",
+                                             "fee",
+                                             "#",
+                                             "western",
+                                             "showa",
+                                             "heisei",
+                                             "reiwa",
+                                             "flat",
+                                             "equal",
+                                             "next",
+                                             "2after",
+                                             "table",
+                                             "csv",
+                                             "tsv",
+                                             "json",
+                                             "-",
+                                             "\x1b[31m",
+                                             "\xff\xfe",
+                                             "\xe2\x82\xac",
+                                             "\t",
+                                             "\r"};
+        switch (pick(40)) {
+        case 0: return std::string(pick(3000), static_cast<char>(pick(256)));
+        case 1:
+        case 2:
+        case 3: return std::to_string(static_cast<std::int64_t>(m_random()) >> pick(64));
+        default: return kWords[pick(std::size(kWords))];
+        }
+    }
+
+    // A number as a field or an event might hold it, now and then anything.
+    std::string number() {
+        if (pick(8) == 0) return word();
+        return std::to_string(pick(2) ? pick(500) : pick(100'000'000)) +
+               (pick(4) ? "" : "." + std::to_string(pick(100)));
+    }
+
+    // An event line, well formed but for what its numbers say, or now and then anything.
+    std::string eventLine() {
+        if (pick(50) == 0) return word() + " " + word() + " " + word();
+        static const char* const kKinds[] = {"prepay", "rate", "fee"};
+        const std::string kind = kKinds[pick(3)];
+        std::string line = kind + " " + payment() + " " + number();
+        if (kind != "prepay") return line;
+        if (pick(2)) line += pick(2) ? " reduce" : " shorten";
+        if (pick(3) == 0) line += " every " + (pick(6) ? std::to_string(1 + pick(60)) : word());
+        return line;
+    }
+
+    // A payment of the loan, now and then one past it.
+    std::string payment() { return std::to_string(1 + pick(pick(30) ? m_times : m_times + 10)); }
+
+    // A value for the option: one it takes, now and then anything.
+    std::string value(const std::string& option) {
+        static const std::pair<const char*, std::vector<const char*>> kChoices[] = {
+            {"--era", {"western", "showa", "heisei", "reiwa"}},
+            {"--delay", {"next", "2after", "3after"}},
+            {"--method", {"flat", "equal"}},
+            {"--format", {"table", "tsv", "csv", "json"}}};
+        if (pick(20) == 0) return word();
+        for (const auto& [name, words] : kChoices)
+            if (option == name) return words[pick(words.size())];
+        if (option == "--prepay" || option == "--rate-change" || option == "--fee") {
+            std::string line = payment() + ":" + number();
+            if (pick(2)) line += pick(2) ? ":reduce" : ":shorten";
+            if (pick(3) == 0) line += ":every=" + std::to_string(1 + pick(60));
+            return line;
+        }
+        return number();
+    }
+
+    std::vector<std::string> options() {
+        static const char* const kOptions[] = {"--principal", "--rate",   "--first",   "--last",        "--era",
+                                               "--year",      "--month",  "--day",     "--pay-day",     "--delay",
+                                               "--method",    "--format", "--prepay",  "--rate-change", "--fee",
+                                               "--prepay",    "--totals", "--by-year", "--totals",      "--by-year"};
+        // Loans short enough to walk quickly, with now and then the longest.
+        m_times = pick(20) == 0 ? 100'000 : 1 + pick(600);
+        std::vector<std::string> args{"--times", std::to_string(m_times)};
+        for (std::size_t n = pick(8); n > 0; --n) {
+            const std::string option = kOptions[pick(std::size(kOptions))];
+            if (option == "--totals" || option == "--by-year")
+                args.push_back(pick(50) ? option : pick(2) ? "--help" : word());
+            else if (pick(2))
+                args.push_back(option + "=" + value(option));
+            else
+                args.insert(args.end(), {option, value(option)});
+        }
+        return args;
+    }
+
+    // An events text: lines of events and of anything else.
+    std::string eventsText() {
+        std::string text;
+        for (std::size_t n = pick(30); n > 0; --n) text += eventLine() + (pick(10) ? "\n" : "\r\n");
+        return text;
+    }
+
+private:
+    std::size_t pick(std::size_t bound) { return static_cast<std::size_t>(m_random() % bound); }
+    std::mt19937_64 m_random;
+    std::size_t m_times = 1;
+};
+
+TEST(Fuzz, TheToolReadsAnyOptionsAndEvents) {
+    const std::uint64_t runs = setting("KESTRUNE_FUZZ_RUNS", 1500), seed = setting("KESTRUNE_FUZZ_SEED", 20261123);
+    Inputs inputs(seed);
+    std::size_t statuses[3] = {};
+    for (std::uint64_t run = 0; run < runs; ++run) {
+        std::vector<std::string> args = inputs.options();
+        if (run % 2) args.insert(args.end(), {"--events", "-"});
+        std::istringstream in(inputs.eventsText());
+        std::ostringstream out, err;
+        const int status = tools::runScheduleCommand(args, calendar::Date(2026, 11, 23), in, out, err);
+        std::string shown;
+        for (const std::string& arg : args) shown += " '" + arg.substr(0, 40) + "'";
+        ASSERT_TRUE(status >= 0 && status <= 2) << "seed " << seed << " run " << run << ":" << shown;
+        ++statuses[status];
+        // Every failure says why, and what it quotes of the input is short and shows no control character.
+        if (status == 0) continue;
+        const std::string said = err.str();
+        EXPECT_EQ(said.rfind("kestrune-schedule: ", 0), 0u) << "run " << run << ":" << shown;
+        EXPECT_LT(said.size(), 400u) << "run " << run << ":" << shown;
+        for (const char c : said)
+            ASSERT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= 0x20) << "run " << run << ":" << shown;
+    }
+    std::cout << "fuzz: " << runs << " inputs from seed " << seed << ": " << statuses[0] << " printed, " << statuses[1]
+              << " refused, " << statuses[2] << " bad options\n";
+}
+
+} // namespace
