@@ -163,7 +163,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             balance -= extra;
             shortened = true;
         }
-        for (const double figure : {paid.amount, paid.principal, interest, balance, amount, principal, fee})
+        // What the row shows; a payment carried to the next row is checked there.
+        for (const double figure : {paid.amount, paid.principal, interest, balance, prepaid, fee})
             if (!isExactAmount(figure)) return std::nullopt;
         paid.balance = balance;
         paid.prepaid = prepaid;

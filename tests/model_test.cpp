@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A reference model of the plan rules, written again from the README as plainly as possible
+// (every event looked at for every payment, sums in straight loops), checked against the engine on
+// random plans: every payment, the totals, the savings with the break-even payment and every
+// year. It shares with the engine only its types and the Round, Pow and Date primitives.
+// KESTRUNE_MODEL_PLANS and KESTRUNE_MODEL_SEED run more plans or others.
+#include "engine/plan.h"
+#include "runtime/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+namespace engine {
+// How gtest prints a payment where the model and the engine differ.
+inline void PrintTo(const Payment& p, std::ostream* os) {
+    *os << "#" << p.number << " " << p.date.Year() << "-" << p.date.Month() << "-" << p.date.Day() << " amount "
+        << p.amount << " principal " << p.principal << " interest " << p.interest << " balance " << p.balance
+        << " prepaid " << p.prepaid << " fee " << p.fee;
+}
+} // namespace engine
+
+namespace {
+
+using engine::EventKind;
+using engine::Payment;
+using engine::PlanEvent;
+using engine::PrepayMode;
+
+constexpr double kLimit = 9007199254740992.0; // 2^53: amounts beyond it are refused
+
+double annuity(double balance, double annual, std::int64_t count) {
+    const double monthly = annual / 12.0;
+    const double t = runtime::Pow(1.0 + monthly, static_cast<double>(count));
+    return runtime::Round(((t * monthly) * balance) / (t - 1.0));
+}
+
+bool beyond(double amount) { return !(amount >= -kLimit && amount <= kLimit); }
+
+// Is the event due with payment n: its own payment, and for a recurring prepayment every so many after.
+bool due(const PlanEvent& e, std::int64_t n) {
+    if (n == e.payment) return true;
+    return e.kind == EventKind::Prepay && e.every > 0 && n > e.payment && (n - e.payment) % e.every == 0;
+}
+
+// The plan's payments, or none where an amount is beyond 2^53.
+std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const std::vector<PlanEvent>& events) {
+    std::vector<Payment> paid;
+    double annual = loan.annualRate;
+    double balance = loan.principal;
+    double payment = loan.flatPayment ? annuity(balance, annual, loan.paymentCount) : 0.0;
+    double principalEach = loan.flatPayment ? 0.0 : runtime::Round(balance / static_cast<double>(loan.paymentCount));
+    if (beyond(balance) || beyond(payment) || beyond(principalEach)) return std::nullopt;
+    bool shortened = false;
+    calendar::Date before = loan.dates.borrowed, date = loan.dates.firstPayment;
+    for (std::int64_t n = 1; n <= loan.paymentCount; ++n) {
+        // A rate change sets the rate of the period that ends with its payment; the last one counts.
+        for (const PlanEvent& e : events) {
+            if (e.kind != EventKind::RateChange || !due(e, n)) continue;
+            annual = e.value / 100.0;
+            if (loan.flatPayment) payment = annuity(balance, annual, loan.paymentCount - n + 1);
+        }
+        const double days = static_cast<double>((date.days() - before.days()).count());
+        const double interest = runtime::Round(balance * (annual / 365.2422) * days);
+        Payment p{n, date, 0, 0, interest, 0};
+        const double regular = loan.flatPayment ? payment - interest : principalEach;
+        const bool last = n == loan.paymentCount || (shortened && regular >= balance);
+        p.principal = last ? balance : regular;
+        p.amount = last || !loan.flatPayment ? p.principal + interest : payment;
+        balance -= p.principal;
+        double reduce = 0, shorten = 0;
+        bool anyReduce = false, anyShorten = false;
+        for (const PlanEvent& e : events) {
+            if (!due(e, n)) continue;
+            if (e.kind == EventKind::Fee) p.fee += e.value;
+            if (e.kind != EventKind::Prepay) continue;
+            (e.mode == PrepayMode::Reduce ? reduce : shorten) += e.value;
+            (e.mode == PrepayMode::Reduce ? anyReduce : anyShorten) = true;
+        }
+        // Prepayments that lower the payment first, then those that shorten the loan.
+        if (anyReduce && balance > 0) {
+            const double extra = std::min(reduce, balance);
+            p.prepaid += extra;
+            balance -= extra;
+            const std::int64_t left = loan.paymentCount - n;
+            if (balance > 0 && left > 0) {
+                if (loan.flatPayment)
+                    payment = annuity(balance, annual, left);
+                else
+                    principalEach = runtime::Round(balance / static_cast<double>(left));
+            }
+        }
+        if (anyShorten && balance > 0) {
+            const double extra = std::min(shorten, balance);
+            p.prepaid += extra;
+            balance -= extra;
+            shortened = true;
+        }
+        p.balance = balance;
+        for (const double figure : {p.amount, p.principal, p.interest, p.balance, p.prepaid, p.fee})
+            if (beyond(figure)) return std::nullopt;
+        paid.push_back(p);
+        if ((last || p.prepaid > 0) && balance <= 0 && !events.empty()) break;
+        before = date;
+        date = calendar::Date(date.Year(), date.Month() + 1, loan.payDay);
+    }
+    return paid;
+}
+
+struct Model {
+    bool refused = true;
+    std::vector<Payment> plan, base;
+    engine::PlanTotals totals;
+    engine::PlanSavings savings;
+    std::vector<engine::YearFigures> years;
+};
+
+engine::PlanTotals totalsOf(const std::vector<Payment>& payments) {
+    engine::PlanTotals t;
+    for (const Payment& p : payments) {
+        t.paid += p.amount + p.prepaid + p.fee;
+        t.principal += p.principal;
+        t.interest += p.interest;
+        t.prepaid += p.prepaid;
+        t.fees += p.fee;
+        t.payoff = p.date;
+    }
+    t.payments = static_cast<std::int64_t>(payments.size());
+    return t;
+}
+
+bool exact(const engine::PlanTotals& t) {
+    return !beyond(t.paid) && !beyond(t.principal) && !beyond(t.interest) && !beyond(t.prepaid) && !beyond(t.fees);
+}
+
+Model model(const engine::LoanRecord& loan, const std::vector<PlanEvent>& events) {
+    Model m;
+    const auto plan = walk(loan, events), base = walk(loan, {});
+    if (!plan || !base || !exact(totalsOf(*plan)) || !exact(totalsOf(*base))) return m;
+    m.refused = false;
+    m.plan = *plan;
+    m.base = *base;
+    m.totals = totalsOf(m.plan);
+    const engine::PlanTotals without = totalsOf(m.base);
+    m.savings.interestSaved = without.interest - m.totals.interest;
+    m.savings.paymentsSaved = without.payments - m.totals.payments;
+    m.savings.netSaving = m.savings.interestSaved - m.totals.fees;
+    // The break-even payment: from the first fee on, the first whose interest saved so far
+    // reaches the fees so far; a payment past one loan's end counts 0 in it.
+    double saved = 0, fees = 0;
+    for (std::size_t i = 0; i < std::max(m.plan.size(), m.base.size()); ++i) {
+        if (i < m.base.size()) saved += m.base[i].interest;
+        if (i < m.plan.size()) saved -= m.plan[i].interest, fees += m.plan[i].fee;
+        if (fees > 0 && saved >= fees) {
+            m.savings.breakEven = static_cast<std::int64_t>(i + 1);
+            m.savings.breakEvenDate = i < m.plan.size() ? m.plan[i].date : m.base[i].date;
+            break;
+        }
+    }
+    for (const Payment& p : m.plan) {
+        if (m.years.empty() || m.years.back().year != p.date.Year()) m.years.emplace_back().year = p.date.Year();
+        engine::YearFigures& y = m.years.back();
+        y.payments += 1;
+        y.amount += p.amount;
+        y.principal += p.principal;
+        y.interest += p.interest;
+        y.prepaid += p.prepaid;
+        y.fees += p.fee;
+        y.balance = p.balance;
+        y.lastPayment = p.date;
+    }
+    return m;
+}
+
+// A random form and plan: every era, both methods, the three delays; events of each kind, several
+// on one payment, recurring prepayments of both modes, prepayments that clear the loan, fees.
+struct RandomPlan {
+    engine::LoanForm form;
+    std::vector<PlanEvent> events;
+};
+
+RandomPlan randomPlan(std::mt19937_64& random) {
+    const auto pick = [&random](std::int64_t from, std::int64_t to) {
+        return std::uniform_int_distribution<std::int64_t>(from, to)(random);
+    };
+    RandomPlan r;
+    const std::int64_t count = pick(0, 9) == 0 ? pick(361, 1200) : pick(1, 360);
+    r.form.times = std::to_string(count);
+    r.form.principal = std::to_string(pick(1, 3) == 1 ? pick(1, 100'000) : pick(100'000, 500'000'000));
+    r.form.rate = std::to_string(static_cast<double>(pick(1, 1500)) / 100.0);
+    r.form.era = static_cast<int>(pick(0, 3));
+    const std::int64_t year = r.form.era == calendar::kWestern ? pick(1950, 2060) : pick(1, 64);
+    r.form.date = {std::to_string(year), std::to_string(pick(1, 12)), std::to_string(pick(1, 31)),
+                   std::to_string(pick(1, 31))};
+    r.form.delay = static_cast<int>(pick(0, 2));
+    r.form.flatPayment = pick(0, 1) == 1;
+    const double principal = std::stod(r.form.principal);
+    for (std::int64_t n = pick(0, 8); n > 0; --n) {
+        PlanEvent e;
+        e.kind = static_cast<EventKind>(pick(0, 2));
+        // Now and then on the payment of the event before it.
+        e.payment = !r.events.empty() && pick(0, 3) == 0 ? r.events.back().payment : pick(1, count);
+        if (e.kind == EventKind::RateChange) e.value = static_cast<double>(pick(0, 1500)) / 100.0;
+        if (e.kind == EventKind::Fee) e.value = static_cast<double>(pick(0, 10) == 0 ? 0 : pick(1, 500'000));
+        if (e.kind == EventKind::Prepay) {
+            // From nothing to more than the whole principal.
+            e.value = std::round(principal * static_cast<double>(pick(0, 120)) / 100.0 / (pick(0, 1) ? 1 : 20));
+            e.mode = static_cast<PrepayMode>(pick(0, 1));
+            if (pick(0, 2) == 0) e.every = pick(1, std::min<std::int64_t>(count, 24));
+        }
+        // Now and then an amount that no plan can hold.
+        if (pick(0, 300) == 0) e.value = e.kind == EventKind::RateChange ? 1e300 : 5e15;
+        r.events.push_back(e);
+    }
+    return r;
+}
+
+std::uint64_t setting(const char* name, std::uint64_t fallback) {
+    const char* value = std::getenv(name);
+    return value ? std::strtoull(value, nullptr, 10) : fallback;
+}
+
+std::string describe(const RandomPlan& r) {
+    std::string text = r.form.principal + " at " + r.form.rate + "% x" + r.form.times + " era " +
+                       std::to_string(r.form.era) + " " + r.form.date.year + "-" + r.form.date.month + "-" +
+                       r.form.date.day + " day " + r.form.date.payDay + " delay " + std::to_string(r.form.delay) +
+                       (r.form.flatPayment ? " flat" : " equal");
+    for (const PlanEvent& e : r.events) text += " | " + engine::eventLine(e);
+    return text;
+}
+
+TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
+    const std::uint64_t plans = setting("KESTRUNE_MODEL_PLANS", 3000), seed = setting("KESTRUNE_MODEL_SEED", 1123);
+    std::mt19937_64 random(seed);
+    std::size_t refused = 0, cleared = 0, brokeEven = 0;
+    for (std::uint64_t i = 0; i < plans; ++i) {
+        const RandomPlan r = randomPlan(random);
+        const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events);
+        const std::string where = "seed " + std::to_string(seed) + " plan " + std::to_string(i) + ": " + describe(r);
+        if (engine.base.refusal == engine::Refusal::ZeroInput) continue;
+        const Model m = model(engine.base.record, r.events);
+        ASSERT_EQ(engine.refusal != engine::Refusal::None, m.refused) << where;
+        if (m.refused) {
+            ++refused;
+            continue;
+        }
+        ASSERT_EQ(engine.plan.payments, m.plan) << where;
+        ASSERT_EQ(engine.base.payments, m.base) << where;
+        const auto& t = engine.totals;
+        ASSERT_EQ((std::tuple{t.payments, t.paid, t.principal, t.interest, t.prepaid, t.fees, t.payoff}),
+                  (std::tuple{m.totals.payments, m.totals.paid, m.totals.principal, m.totals.interest, m.totals.prepaid,
+                              m.totals.fees, m.totals.payoff}))
+            << where;
+        const auto& s = engine.savings;
+        ASSERT_EQ(
+            (std::tuple{s.interestSaved, s.paymentsSaved, s.netSaving, s.breakEven}),
+            (std::tuple{m.savings.interestSaved, m.savings.paymentsSaved, m.savings.netSaving, m.savings.breakEven}))
+            << where;
+        if (s.breakEven) {
+            ASSERT_EQ(s.breakEvenDate, m.savings.breakEvenDate) << where;
+        }
+        ASSERT_EQ(engine.years.size(), m.years.size()) << where;
+        for (std::size_t y = 0; y < m.years.size(); ++y) {
+            const auto &a = engine.years[y], &b = m.years[y];
+            ASSERT_EQ((std::tuple{a.year, a.payments, a.amount, a.principal, a.interest, a.prepaid, a.fees, a.balance,
+                                  a.lastPayment}),
+                      (std::tuple{b.year, b.payments, b.amount, b.principal, b.interest, b.prepaid, b.fees, b.balance,
+                                  b.lastPayment}))
+                << where << ", year " << b.year;
+        }
+        cleared += m.plan.size() < m.base.size();
+        brokeEven += s.breakEven.has_value();
+    }
+    // The plans reach the rules that matter: refusals, loans ended early, fees earned back.
+    EXPECT_GT(refused, 0u);
+    EXPECT_GT(cleared, plans / 10);
+    EXPECT_GT(brokeEven, plans / 50);
+    std::cout << "model: " << plans << " plans from seed " << seed << ": " << refused << " refused, " << cleared
+              << " ended early, " << brokeEven << " broke even\n";
+}
+
+} // namespace
