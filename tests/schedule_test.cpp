@@ -41,20 +41,37 @@ TEST(Schedule, WorkedExamplesOfBothMethods) {
 }
 
 TEST(Schedule, TheDateColumnShowsTheYearOfTheEraInForce) {
-    const auto heisei = rows(loan2020(false, calendar::kHeisei, "30")); // from Heisei 30 March
-    EXPECT_EQ(heisei[12][table::kDate], "31.04.08");
-    EXPECT_EQ(heisei[13][table::kDate], "01.05.08") << "Reiwa 1 from May 2019";
-    LoanForm showa = loan2020(false, calendar::kShowa, "63");
-    showa.date = {"63", "12", "10", "7"};
-    EXPECT_EQ(rows(showa)[0][table::kDate], "64.01.07");
-    showa.date.payDay = "8";
-    EXPECT_EQ(rows(showa)[0][table::kDate], "01.01.08") << "Heisei 1 from 8 January 1989";
+    struct Case {
+        int era;
+        calendar::DateLineTexts date;
+        std::size_t row;
+        const char* shown;
+    };
+    const Case cases[] = {
+        {calendar::kHeisei, {"30", "3", "15", "8"}, 12, "31.04.08"}, // the last month of Heisei
+        {calendar::kHeisei, {"30", "3", "15", "8"}, 13, "01.05.08"}, // Reiwa 1 from May 2019
+        {calendar::kShowa, {"63", "12", "10", "7"}, 0, "64.01.07"},  // the last day of Showa
+        {calendar::kShowa, {"63", "12", "10", "8"}, 0, "01.01.08"},  // Heisei 1 from 8 January 1989
+        {calendar::kShowa, {"1", "12", "1", "25"}, 0, "01.12.25"},   // the first day of Showa
+        {calendar::kWestern, {"1926", "12", "1", "25"}, 0, "26.12.25"},
+        // Year 0 of an era is the year before its first, counted in it.
+        {calendar::kShowa, {"0", "3", "15", "8"}, 9, "01.01.08"},
+        {calendar::kHeisei, {"0", "3", "15", "8"}, 0, "00.04.08"},
+        {calendar::kReiwa, {"0", "3", "15", "8"}, 8, "00.12.08"},
+    };
+    for (const Case& c : cases) {
+        LoanForm form = loan2020(false, c.era);
+        form.date = c.date;
+        EXPECT_EQ(rows(form)[c.row][table::kDate], c.shown) << c.era << " " << c.date.year << "-" << c.date.month;
+    }
 }
 
 TEST(Schedule, ListsTheRangeAskedAndACutKeepsItsRows) {
     EXPECT_EQ(rows(loan2020(false), {10, 20}).front()[table::kNumber], "010");
     EXPECT_EQ(rows(loan2020(false), {std::numeric_limits<std::int64_t>::min(), 2}).size(), 2u);
     EXPECT_TRUE(rows(loan2020(false), {150, -1}).empty());
+    EXPECT_EQ(rows(loan2020(false), {140, 150}).size(), 5u) << "a range past the last payment ends with it";
+    EXPECT_EQ(rows(loan2020(false), {0, 3}).size(), 3u) << "a first row of 0 lists from the first";
     EXPECT_EQ(rows(loan2020(true), {1, 12})[11], rows(loan2020(true))[11]);
 }
 

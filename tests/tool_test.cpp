@@ -69,9 +69,6 @@ TEST(ScheduleTool, PlansWithEventsTotalsAndYears) {
     EXPECT_NE(options.out.find("\"break-even payment\": \"86 (2027 / 5 / 8 )\"}"), std::string::npos);
     EXPECT_EQ(options.out, run("--format json --last 0 --events " + file.string() + " " + loan).out);
     EXPECT_EQ(options.out, run("--format json --last 0 --events - " + loan + "< " + file.string()).out);
-    const Result years = run(loan + "--by-year --format csv");
-    EXPECT_EQ(years.out.substr(0, years.out.find('\n')),
-              "Year,Era year,Payments,Amount,Principal,Interest,Prepaid,Fees,Balance\r");
 }
 
 struct StatusCase {
@@ -131,6 +128,58 @@ TEST(ScheduleTool, TotalsFollowTheRowsOfASpreadsheet) {
               "Payments,6\r\nPaid,\"1,209,625\"\r\nPrincipal,\"1,100,000\"\r\nInterest,\"4,625\"\r\n"
               "Prepaid,\"100,000\"\r\nFees,\"5,000\"\r\nPayoff,2020 / 9 / 8 \r\nInterest saved,314\r\n"
               "Payments saved,0 (0 years 0 months)\r\nNet saving,\"-4,686\"\r\nBreak-even payment,none\r\n");
+}
+
+// 600,000 by equal principal at 3 % over 6 payments from Heisei 30-11-20, with 100,000 prepaid
+// (shorten) with payment 2, 1.5 % from payment 3 and a fee of 2,000 with payment 4. By hand:
+// 600,000 x 3 % / 365.2422 x 18 days = 887.08; 500,000 x 3 % / 365.2422 x 31 = 1,273.13; at 1.5 %
+// 300,000 x 31 days = 381.93, 200,000 x 28 = 229.99, 100,000 x 31 = 127.32. 100,000 of principal a
+// payment leaves 0 after payment 5: one payment saved. Heisei 31 runs to April: the loan ends in it.
+const std::string kPlan = "--era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 "
+                          "--method equal --prepay 2:100,000:shorten --rate-change 3:1.5 --fee 4:2,000 ";
+
+TEST(ScheduleTool, APlanReadWholeInEachFormat) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"--totals", "Pay off: Heisei  31 / 4 / 8 \n\n"
+                     "No.  Repayment   Amount  Principal  Interest  Prepaid  Balance\n"
+                     "001  30.12.08   100,887    100,000       887        0  500,000\n"
+                     "002  31.01.08   101,273    100,000     1,273  100,000  300,000\n"
+                     "003  31.02.08   100,382    100,000       382        0  200,000\n"
+                     "004  31.03.08   100,230    100,000       230        0  100,000\n"
+                     "005  31.04.08   100,127    100,000       127        0        0\n"
+                     "\nPayments: 5\nPaid: 604,899\nPrincipal: 500,000\nInterest: 2,899\nPrepaid: 100,000\n"
+                     "Fees: 2,000\nPayoff: Heisei  31 / 4 / 8 \nInterest saved: 1,725\n"
+                     "Payments saved: 1 (0 years 1 months)\nNet saving: -275\nBreak-even payment: none\n"},
+        {"--format tsv --first 4", "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n"
+                                   "004\t31.03.08\t100,230\t100,000\t230\t0\t100,000\n"
+                                   "005\t31.04.08\t100,127\t100,000\t127\t0\t0\n"},
+        {"--format json --totals --last 1",
+         "{\"payoff\": \"Heisei  31 / 4 / 8 \", \"header\": [\"No.\", \"Repayment\", \"Amount\", \"Principal\", "
+         "\"Interest\", \"Prepaid\", \"Balance\"], \"rows\": [[\"001\", \"30.12.08\", \"100,887\", \"100,000\", "
+         "\"887\", \"0\", \"500,000\"]], \"totals\": {\"payments\": \"5\", \"paid\": \"604,899\", \"principal\": "
+         "\"500,000\", \"interest\": \"2,899\", \"prepaid\": \"100,000\", \"fees\": \"2,000\", \"payoff\": "
+         "\"Heisei  31 / 4 / 8 \"}, \"savings\": {\"interest saved\": \"1,725\", \"payments saved\": "
+         "\"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even payment\": \"none\"}, \"events\": "
+         "[\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 2000\"]}\n"},
+        {"--by-year", "Year  Era year   Payments   Amount  Principal  Interest  Prepaid   Fees  Balance\n"
+                      "2018  Heisei 30         1  100,887    100,000       887        0      0  500,000\n"
+                      "2019  Heisei 31         4  402,012    400,000     2,012  100,000  2,000        0\n"},
+        {"--by-year --format json",
+         "{\"payoff\": \"Heisei  31 / 4 / 8 \", \"header\": [\"Year\", \"Era year\", \"Payments\", \"Amount\", "
+         "\"Principal\", \"Interest\", \"Prepaid\", \"Fees\", \"Balance\"], \"rows\": [], \"totals\": {\"payments\": "
+         "\"5\", \"paid\": \"604,899\", \"principal\": \"500,000\", \"interest\": \"2,899\", \"prepaid\": "
+         "\"100,000\", \"fees\": \"2,000\", \"payoff\": \"Heisei  31 / 4 / 8 \"}, \"savings\": {\"interest saved\": "
+         "\"1,725\", \"payments saved\": \"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even "
+         "payment\": \"none\"}, \"events\": [\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 2000\"], "
+         "\"years\": [[\"2018\", \"Heisei 30\", \"1\", \"100,887\", \"100,000\", \"887\", \"0\", \"0\", "
+         "\"500,000\"], [\"2019\", \"Heisei 31\", \"4\", \"402,012\", \"400,000\", \"2,012\", \"100,000\", "
+         "\"2,000\", \"0\"]]}\n"},
+    };
+    for (const auto& [options, printed] : cases) {
+        const Result r = run(kPlan + options);
+        EXPECT_EQ(r.status, 0) << options;
+        EXPECT_EQ(r.out, printed) << options;
+    }
 }
 
 TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {

@@ -36,6 +36,7 @@ TEST_F(FormTest, EachFieldCorrectsItsTextAndRecalculatesWhenItChanged) {
     const FieldCase cases[] = {
         {"Nenriritsu", "3.50", "3.5", 1, 144, table::kInterest, "229,984"}, // 24 days at 3.5 % a year
         {"Nenriritsu", "2", "2", 1, 144, table::kInterest, "131,420"},      // "2.0" read anew as "2"
+        {"Nenriritsu", "3.", "3", 1, 144, table::kInterest, "197,129"},     // a number that ends in a point
         {"GankinField", "1,000,000", "1,000,000", 1, 144, table::kPrincipal, "6,944"},
         {"GankinField", "12345.6", "12,346", 1, 144, table::kPrincipal, "86"},
         {"Kaisu", "0144", "144", 0, 144, table::kNumber, "001"},
@@ -45,11 +46,14 @@ TEST_F(FormTest, EachFieldCorrectsItsTextAndRecalculatesWhenItChanged) {
         {"Shokai", "2.9", "2.9", 1, 143, table::kNumber, "002"},
         {"Shokai", "144", "144", 1, 1, table::kNumber, "144"},
         {"Shokai", "145", "1", 1, 144, table::kNumber, "001"}, // outside the count: back to 1
+        {"Shokai", "0", "1", 1, 144, table::kNumber, "001"},
         {"StartM", "13", "12", 1, 144, table::kDate, "21.01.08"},
         {"StartM", "x", "1", 1, 144, table::kDate, "20.02.08"},
         {"StartD", "45", "31", 1, 144, table::kDate, "20.04.08"},
+        {"StartD", "0", "1", 1, 144, table::kDate, "20.03.08"}, // a day below 1: the first
         {"StartDX", "45", "31", 1, 144, table::kDate, "20.03.31"},
         {"StartDX", "8.9", "8", 0, 144, table::kDate, "20.04.08"},
+        {"StartDX", "-3", "1", 1, 144, table::kDate, "20.04.01"},
     };
     for (const auto& c : cases) {
         setForm(loan2020());

@@ -138,6 +138,31 @@ TEST_F(PlanTest, TheScheduleIsTheToolsForEitherMethod) {
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() == expected);
 }
 
+TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
+    paste("fee 1 10\nrate 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
+    const auto click = [this](int row, Qt::KeyboardModifiers keys) {
+        const QRect cell = plan->Events->visualItemRect(plan->Events->item(row, 0));
+        QTest::mouseClick(plan->Events->viewport(), Qt::LeftButton, keys, cell.center());
+    };
+    click(1, {});
+    click(2, Qt::ControlModifier);
+    QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "rate 2 1\nprepay 3 1,000 reduce every 12\n");
+    QTest::keyClick(plan->Events, Qt::Key_Delete);
+    ASSERT_EQ(plan->Events->rowCount(), 2);
+    EXPECT_EQ(plan->Events->item(1, 2)->text(), "40");
+    EXPECT_EQ(figure(4), "50") << "the fees of the rows left";
+    // With nothing selected, Remove takes the row of the current cell, and Copy copies nothing.
+    click(1, {});
+    click(1, Qt::ControlModifier);
+    ASSERT_TRUE(plan->Events->selectedItems().isEmpty());
+    QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
+    QTest::mouseClick(plan->RemoveButton, Qt::LeftButton);
+    ASSERT_EQ(plan->Events->rowCount(), 1);
+    EXPECT_EQ(plan->Events->item(0, 2)->text(), "10");
+}
+
 // What a failed save tells: the message of the window, then closed; empty where none.
 QString message(QWidget* window) {
     auto* box = window->findChild<QMessageBox*>();
