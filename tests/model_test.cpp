@@ -247,30 +247,11 @@ TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
         }
         ASSERT_EQ(engine.plan.payments, m.plan) << where;
         ASSERT_EQ(engine.base.payments, m.base) << where;
-        const auto& t = engine.totals;
-        ASSERT_EQ((std::tuple{t.payments, t.paid, t.principal, t.interest, t.prepaid, t.fees, t.payoff}),
-                  (std::tuple{m.totals.payments, m.totals.paid, m.totals.principal, m.totals.interest, m.totals.prepaid,
-                              m.totals.fees, m.totals.payoff}))
-            << where;
-        const auto& s = engine.savings;
-        ASSERT_EQ(
-            (std::tuple{s.interestSaved, s.paymentsSaved, s.netSaving, s.breakEven}),
-            (std::tuple{m.savings.interestSaved, m.savings.paymentsSaved, m.savings.netSaving, m.savings.breakEven}))
-            << where;
-        if (s.breakEven) {
-            ASSERT_EQ(s.breakEvenDate, m.savings.breakEvenDate) << where;
-        }
-        ASSERT_EQ(engine.years.size(), m.years.size()) << where;
-        for (std::size_t y = 0; y < m.years.size(); ++y) {
-            const auto &a = engine.years[y], &b = m.years[y];
-            ASSERT_EQ((std::tuple{a.year, a.payments, a.amount, a.principal, a.interest, a.prepaid, a.fees, a.balance,
-                                  a.lastPayment}),
-                      (std::tuple{b.year, b.payments, b.amount, b.principal, b.interest, b.prepaid, b.fees, b.balance,
-                                  b.lastPayment}))
-                << where << ", year " << b.year;
-        }
+        ASSERT_TRUE(engine.totals == m.totals) << where;
+        ASSERT_TRUE(engine.savings == m.savings) << where;
+        ASSERT_TRUE(engine.years == m.years) << where;
         cleared += m.plan.size() < m.base.size();
-        brokeEven += s.breakEven.has_value();
+        brokeEven += m.savings.breakEven.has_value();
     }
     // The plans reach the rules that matter: refusals, loans ended early, fees earned back.
     EXPECT_GT(refused, 0u);

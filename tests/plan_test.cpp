@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Plans: each kind of event on small loans worked by hand, the lines that name events, totals,
-// savings and the figures of each year.
+// Plans: events on small loans worked by hand, the lines that name events, the bounds of an events
+// text and the event that makes a plan refused. Totals, savings and years on random plans are
+// checked by the reference model (model_test.cpp).
 #include "engine/calculation.h"
 #include "engine/plan.h"
 
@@ -76,39 +77,6 @@ TEST(Plan, RateChangesActFromTheirPeriodAndBeforeAPrepayment) {
     EXPECT_EQ(flat[2].balance, 0.0);
 }
 
-TEST(Plan, FeesSavingsAndBreakEven) {
-    // A refinancing of the 30,000,000 loan at payment 61 to 0.9 % with a fee of 330,000.
-    LoanForm form = tinyLoan();
-    form.principal = "30,000,000";
-    form.rate = "1.5";
-    form.times = "420";
-    form.flatPayment = true;
-    const auto base = calculate(form).payments;
-    const auto plan = calculate(form, {}, events({"rate 61 0.9", "fee 61 330,000"}, 420)).payments;
-    const PlanSavings savings = planSavings(base, plan);
-    EXPECT_EQ(planTotals(plan).fees, 330000.0);
-    EXPECT_EQ(savings.netSaving, savings.interestSaved - 330000.0);
-    // The interest saved reaches the fee with the break-even payment, not before.
-    double saved = 0;
-    std::int64_t n = 0;
-    while (saved < 330000.0) saved += base[n].interest - plan[n].interest, ++n;
-    EXPECT_EQ(savings.breakEven, n);
-    EXPECT_FALSE(planSavings(base, calculate(form, {}, events({"fee 1 1"}, 420)).payments).breakEven);
-}
-
-TEST(Plan, YearsFollowTheCalendarAcrossAnEra) {
-    LoanForm form = tinyLoan();
-    form.era = calendar::kHeisei;
-    form.date = {"30", "10", "1", "8"};
-    const auto years = yearlyFigures(calculate(form, {}, events({"prepay 2 300"})).payments);
-    ASSERT_EQ(years.size(), 2u); // October 2018 to June 2019: Heisei 30 and 31, Reiwa 1
-    EXPECT_EQ((std::array{years[0].year, years[0].payments, years[1].year, years[1].payments}),
-              (std::array<std::int64_t, 4>{2018, 3, 2019, 6}));
-    EXPECT_EQ(years[0].prepaid, 300.0);
-    EXPECT_EQ(years[0].balance, 600.0);
-    EXPECT_EQ(years[1].balance, 0.0);
-}
-
 TEST(Plan, EventLinesReadAndWrittenBack) {
     const std::pair<const char*, const char*> lines[] = {
         {"prepay 12 1,000,000 reduce every 12", "prepay 12 1000000 reduce every 12"},
@@ -179,23 +147,6 @@ TEST(Plan, ARefusedPlanNamesTheEventThatMakesIt) {
         EXPECT_EQ(calculate(form).refusal, refusal) << principal;
     }
     EXPECT_EQ(evaluatePlan(form, {}).refusal, Refusal::OutOfRange) << "its total paid, with interest, is beyond";
-}
-
-TEST(Plan, RepeatingLinesActAsTheirSum) {
-    // A thousand lines that each prepay 1 every payment from their own, and a payment's reduce
-    // prepayments acting before its shorten ones whatever their order.
-    std::vector<PlanEvent> many;
-    for (int k = 1; k <= 1000; ++k)
-        many.push_back(*readEvent("prepay " + std::to_string(k) + " 1 every 1", 10000).event);
-    LoanForm form = tinyLoan();
-    form.principal = "100,000,000";
-    form.times = "10000";
-    const auto walked = calculate(form, {}, many).payments;
-    for (const std::size_t n : {0, 499, 999, 1500})
-        EXPECT_EQ(walked[n].prepaid, static_cast<double>(std::min<std::size_t>(n + 1, 1000))) << n;
-    form.flatPayment = true;
-    EXPECT_EQ(calculate(form, {}, events({"prepay 3 300 shorten", "prepay 3 200 reduce"}, 10000)).payments,
-              calculate(form, {}, events({"prepay 3 200 reduce", "prepay 3 300 shorten"}, 10000)).payments);
 }
 
 } // namespace

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The calculation: worked examples, the date column, the listed range, refusals, and the walk's
-// invariants on random forms.
+// The calculation: worked examples, the date column, the listed range and refusals. The walk on
+// random forms is checked by the reference model (model_test.cpp).
 #include "engine/calculation.h"
 #include "runtime/numbers.h"
 #include "table/rows.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 using namespace engine;
 using table::Row;
@@ -98,51 +96,6 @@ TEST(Calculate, RefusesZeroAndInexactAmounts) {
         form.rate = c.rate;
         form.times = c.times;
         EXPECT_EQ(calculate(form).refusal, c.refusal) << c.principal << " " << c.rate << " " << c.times;
-    }
-}
-
-// For random forms, each payment follows from the one before by the rules of the walk.
-TEST(Schedule, EveryPaymentFollowsFromTheOneBefore) {
-    std::mt19937 random(20261123);
-    const auto pick = [&random](int low, int high) { return std::uniform_int_distribution(low, high)(random); };
-    for (int trial = 0; trial < 400; ++trial) {
-        LoanForm form;
-        form.principal = std::to_string(pick(1, 2'000'000) * 1000);
-        form.rate = std::to_string(pick(1, 1500) / 100.0);
-        form.times = std::to_string(pick(1, 420));
-        form.era = pick(0, 3);
-        form.date = {std::to_string(form.era == 0 ? pick(1950, 2050) : pick(1, 40)), std::to_string(pick(1, 12)),
-                     std::to_string(pick(1, 31)), std::to_string(pick(1, 31))};
-        form.delay = pick(0, 2);
-        form.flatPayment = pick(0, 1) == 1;
-        const Calculation calc = calculate(form);
-        ASSERT_EQ(calc.refusal, Refusal::None) << form.principal << " " << form.rate << " " << form.times;
-        const auto& p = calc.payments;
-        ASSERT_EQ(p.size(), static_cast<std::size_t>(calc.record.paymentCount));
-        double balance = calc.record.principal;
-        calendar::Date previous = calc.record.dates.borrowed;
-        for (std::size_t i = 0; i < p.size(); ++i) {
-            SCOPED_TRACE(testing::Message() << "trial " << trial << " payment " << i + 1);
-            const std::int64_t month = previous.Month() + (i == 0 ? 0 : 1);
-            const auto payDay =
-                calendar::dayWithinMonth(calendar::kWestern, previous.Year(), month, calc.terms.dateLine.payDay);
-            if (i > 0) {
-                EXPECT_EQ(p[i].date, calendar::Date(previous.Year(), month, payDay));
-            }
-            const double days = static_cast<double>(calendar::daysBetween(previous, p[i].date));
-            EXPECT_EQ(p[i].interest, runtime::Round(balance * calc.record.dailyRate * days));
-            EXPECT_EQ(p[i].amount, p[i].principal + p[i].interest);
-            if (i + 1 < p.size()) {
-                EXPECT_EQ(calc.record.flatPayment ? p[i].amount : p[i].principal,
-                          calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal);
-            }
-            EXPECT_EQ(p[i].balance, balance - p[i].principal);
-            balance = p[i].balance;
-            previous = p[i].date;
-        }
-        EXPECT_EQ(balance, 0.0) << "the last payment takes up the difference";
-        EXPECT_EQ(p.front().date, calc.record.dates.firstPayment);
-        EXPECT_EQ(p.back().date, calc.record.dates.payoff);
     }
 }
 

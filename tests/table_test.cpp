@@ -70,6 +70,11 @@ TEST(Recombination, TheNewLoanStartsOnTheSelectedPayment) {
         EXPECT_TRUE(recombination(old, c.firstPayment, c.selected, c.rowsUpToSelected) == expected)
             << c.selected[kNumber];
     }
+    // A number typed over beyond any loan counts as the longest loan's last payment: 2020-04 and
+    // 99,999 months is 10353, Reiwa 8335.
+    engine::LoanForm era;
+    era.date.payDay = "8";
+    EXPECT_EQ(recombination(era, {2020, 4, 8}, {"99999999999999999999", "", "", "", "", "1"}, 1).date.year, "8335");
     engine::LoanForm payDay31;
     payDay31.date.payDay = "31";
     EXPECT_EQ(recombination(payDay31, {2020, 4, 30}, {"001", "02.04.30", "", "", "", "1"}, 1).date.payDay, "31");

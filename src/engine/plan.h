@@ -54,6 +54,7 @@ struct PlanTotals {
     double prepaid = 0.0;
     double fees = 0.0;
     calendar::Date payoff; // the date of the last payment
+    friend bool operator==(const PlanTotals&, const PlanTotals&) = default;
 };
 PlanTotals planTotals(const std::vector<Payment>& payments);
 
@@ -66,6 +67,7 @@ struct PlanSavings {
     // fees paid so far; none without fees, or where it never does.
     std::optional<std::int64_t> breakEven;
     calendar::Date breakEvenDate; // the date of that payment, in whichever loan still runs
+    friend bool operator==(const PlanSavings&, const PlanSavings&) = default;
 };
 PlanSavings planSavings(const std::vector<Payment>& withoutEvents, const std::vector<Payment>& plan);
 
@@ -80,6 +82,7 @@ struct YearFigures {
     double fees = 0.0;
     double balance = 0.0; // after the year's last payment
     calendar::Date lastPayment;
+    friend bool operator==(const YearFigures&, const YearFigures&) = default;
 };
 std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments);
 

@@ -5,6 +5,8 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
+#include <algorithm>
+
 namespace table {
 
 using runtime::intVal;
@@ -35,7 +37,8 @@ engine::LoanForm recombination(const engine::LoanForm& old, const calendar::Date
         // The cell shows two digits of a year whose era may have moved on during the schedule:
         // take the payment's real date and name its era and year.
         const std::int64_t payDay = intVal(old.date.payDay);
-        const std::int64_t payment = intVal(selected[kNumber]);
+        // A typed-over number counts as it reads, within the longest loan.
+        const std::int64_t payment = std::clamp(intVal(selected[kNumber]), -engine::kMaxPayments, engine::kMaxPayments);
         const calendar::Date date(firstPayment.Year(), firstPayment.Month() + payment - 1, payDay);
         const auto shown = calendar::displayedEraYear(old.era, date.Year(), date.Month(), payDay);
         loan.era = shown.era;
