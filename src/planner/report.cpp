@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <numeric>
 
 namespace planner {
 namespace {
@@ -43,23 +44,19 @@ private:
     bool m_failed = false;
 };
 
-// Column widths from the headings and the texts with the most characters: the figures of an
-// amount column are as wide as each other, so the longest text is the widest.
+// Column widths from the headings and the widest texts of the first and last hundred rows, which
+// hold the widest: amounts fall or keep their digits, dates keep their width.
 std::vector<int> columnWidths(const ReportTable& table, const QFontMetrics& metrics, int pageWidth) {
-    std::vector<QString> longest(static_cast<std::size_t>(table.headings.size()));
-    for (std::size_t c = 0; c < longest.size(); ++c) longest[c] = table.headings[static_cast<int>(c)];
-    // The first and last hundred rows hold the longest texts: amounts fall, dates keep their width.
-    for (std::size_t r = 0; r < table.rowCount; r = r == 99 && table.rowCount > 200 ? table.rowCount - 100 : r + 1) {
-        const table::Cells cells = table.row(r);
-        for (std::size_t c = 0; c < std::min(cells.size(), longest.size()); ++c)
-            if (static_cast<qsizetype>(cells[c].size()) > longest[c].toUtf8().size())
-                longest[c] = QString::fromStdString(cells[c]);
-    }
     const int gap = metrics.horizontalAdvance(QStringLiteral("00"));
     std::vector<int> widths;
-    int total = 0;
-    for (const QString& text : longest) total += widths.emplace_back(metrics.horizontalAdvance(text) + gap);
+    for (const QString& heading : table.headings) widths.push_back(metrics.horizontalAdvance(heading) + gap);
+    for (std::size_t r = 0; r < table.rowCount; r = r == 99 && table.rowCount > 200 ? table.rowCount - 100 : r + 1) {
+        const table::Cells cells = table.row(r);
+        for (std::size_t c = 0; c < std::min(cells.size(), widths.size()); ++c)
+            widths[c] = std::max(widths[c], metrics.horizontalAdvance(QString::fromStdString(cells[c])) + gap);
+    }
     // Narrower in proportion where the page is narrower than the table.
+    const int total = std::accumulate(widths.begin(), widths.end(), 0);
     if (total > pageWidth)
         for (int& w : widths) w = w * pageWidth / total;
     return widths;
