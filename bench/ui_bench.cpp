@@ -54,11 +54,18 @@ void StartupToFirstTable(benchmark::State& state) {
 }
 BENCHMARK(StartupToFirstTable)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void RecalculateAndRepaint(benchmark::State& state) {
+// A window shown with a loan of that many payments at 0.5 %, calculated.
+shell::MainWindow* windowWithPayments(std::int64_t payments) {
     auto* window = new shell::MainWindow;
     window->show();
-    window->Kaisu->setText(QString::number(state.range(0)));
+    window->Kaisu->setText(QString::number(payments));
     window->Nenriritsu->setText("0.5");
+    window->CulcButton->Push();
+    return window;
+}
+
+void RecalculateAndRepaint(benchmark::State& state) {
+    auto* window = windowWithPayments(state.range(0));
     for (auto _ : state) {
         window->CulcButton->Push();
         window->ListBox1->viewport()->repaint();
@@ -70,11 +77,7 @@ void RecalculateAndRepaint(benchmark::State& state) {
 BENCHMARK(RecalculateAndRepaint)->Arg(144)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 void SelectAllRows(benchmark::State& state) {
-    auto* window = new shell::MainWindow;
-    window->show();
-    window->Kaisu->setText(QString::number(state.range(0)));
-    window->Nenriritsu->setText("0.5");
-    window->CulcButton->Push();
+    auto* window = windowWithPayments(state.range(0));
     for (auto _ : state) {
         window->SelectAllButton->click(); // all rows, with the interest total
         state.PauseTiming();
@@ -114,11 +117,7 @@ BENCHMARK(PlanEventEdit)->Args({144, 1})->Args({100'000, 1'000})->Unit(benchmark
 // The Plan window's report of a loan of that many payments exported as PDF: its time, the
 // file's size and the process's peak memory.
 void ExportPdf(benchmark::State& state) {
-    auto* window = new shell::MainWindow;
-    window->show();
-    window->Kaisu->setText(QString::number(state.range(0)));
-    window->Nenriritsu->setText("0.5");
-    window->CulcButton->Push();
+    auto* window = windowWithPayments(state.range(0));
     window->showPlan();
     auto* plan = window->findChild<planner::PlanWindow*>();
     const QString path = QDir::temp().filePath("kestrune-bench.pdf");
