@@ -11,17 +11,16 @@
 #include "strings/lookup.h"
 #include "table/export.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QChartView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateTime>
 #include <QDateTimeAxis>
-#include <QFile>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QGraphicsScene>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
