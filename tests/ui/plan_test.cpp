@@ -12,9 +12,11 @@
 #include <QLineSeries>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 #include <fstream>
@@ -263,6 +265,24 @@ TEST_F(PlanTest, AFailedSaveIsToldAndLeavesNoPartOfAFile) {
         EXPECT_EQ((c.left.isEmpty() ? full : readOnly).entries(), c.left) << c.path.toStdString();
     }
     EXPECT_EQ(slurp(readOnly.file("plan.csv")), "old");
+}
+
+TEST_F(PlanTest, ALongReportShowsItsProgressAndCancelLeavesNoFile) {
+    engine::LoanForm form = w->loanForm();
+    form.times = "100000";
+    form.flatPayment = false; // a flat payment over so many months is beyond a double
+    setForm(form);
+    ASSERT_EQ(plan->Schedule->model()->rowCount(), 100000);
+    QTemporaryDir dir;
+    QTimer::singleShot(1000, plan, [this] {
+        auto* progress = plan->findChild<QProgressDialog*>();
+        ASSERT_NE(progress, nullptr);
+        EXPECT_EQ(progress->maximum(), 100000) << "the rows of the schedule";
+        progress->cancel();
+    });
+    EXPECT_FALSE(plan->exportPdf(dir.filePath("plan.pdf")));
+    EXPECT_FALSE(QFile::exists(dir.filePath("plan.pdf")));
+    EXPECT_EQ(message(plan), "");
 }
 
 TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
