@@ -125,7 +125,7 @@ private:
 };
 
 TEST(Fuzz, TheToolReadsAnyOptionsAndEvents) {
-    const std::uint64_t runs = setting("KESTRUNE_FUZZ_RUNS", 1500), seed = setting("KESTRUNE_FUZZ_SEED", 20261123);
+    const std::uint64_t runs = setting("KESTRUNE_FUZZ_RUNS", 1000), seed = setting("KESTRUNE_FUZZ_SEED", 20261123);
     Inputs inputs(seed);
     std::size_t statuses[3] = {};
     for (std::uint64_t run = 0; run < runs; ++run) {
