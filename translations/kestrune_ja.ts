@@ -379,11 +379,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>返済表を CSV で保存(&amp;S)...</translation>
     </message>
     <message>
-        <source>kPrint</source>
-        <comment>P&amp;rint...</comment>
-        <translation>印刷(&amp;R)...</translation>
-    </message>
-    <message>
         <source>kExportPdf</source>
         <comment>&amp;Export as PDF...</comment>
         <translation>PDF に書き出し(&amp;E)...</translation>
@@ -472,6 +467,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kTooManyLines</source>
         <comment>it has more than %1 lines.</comment>
         <translation>%1行を超えています。</translation>
+    </message>
+    <message>
+        <source>kPrint</source>
+        <comment>&amp;Print...</comment>
+        <translation>印刷(&amp;P)...</translation>
     </message>
 </context>
 </TS>

@@ -111,12 +111,14 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     RemoveButton = button(strings::kRemoveEvent, &PlanWindow::removeEvents);
     CopyButton = button(strings::kCopySchedule, &PlanWindow::copySchedule);
     CsvButton = button(strings::kSaveCsv, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, text(strings::kSaveCsv), "schedule.csv", "CSV (*.csv)");
+        const QString path = QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kSaveCsv),
+                                                          "schedule.csv", "CSV (*.csv)");
         if (!path.isEmpty()) saveCsv(path);
     });
     PrintButton = button(strings::kPrint, &PlanWindow::print);
     PdfButton = button(strings::kExportPdf, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, text(strings::kExportPdf), "plan.pdf", "PDF (*.pdf)");
+        const QString path = QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kExportPdf),
+                                                          "plan.pdf", "PDF (*.pdf)");
         if (!path.isEmpty()) exportPdf(path);
     });
     // Copy Schedule answers its key wherever the focus is in this window.

@@ -50,7 +50,10 @@ std::string textOf(const QLineEdit* field) { return str(field->text()); }
 // ---------------------------------------------------------------------------------------------
 // Construction
 
-MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
+// A title, the window menu and a close button: the window has no minimise or maximise button.
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                              Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(text(strings::kAppName));
     buildMenuBar(menuBar(), this);

@@ -2,6 +2,7 @@
 #include "strings/lookup.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace strings {
 
@@ -14,6 +15,13 @@ QString text(const Constant& constant) {
     const QString translated = QCoreApplication::translate(context.c_str(), name.c_str(), defaultText.c_str());
     if (translated != QLatin1String(name.c_str())) return translated;
     return QString::fromUtf8(constant.defaultText.data(), static_cast<qsizetype>(constant.defaultText.size()));
+}
+
+QString withoutMnemonic(const Constant& constant) {
+    QString plain = text(constant);
+    plain.remove(QRegularExpression(QStringLiteral("\\(&[^)]\\)"))); // Japanese: "保存(&S)..."
+    // One '&' marks the mnemonic, "&&" is an ampersand.
+    return plain.replace(QStringLiteral("&&"), QStringLiteral("\x01")).remove('&').replace('\x01', '&');
 }
 
 QStringList fields(const Constant& constant, QChar separator) { return text(constant).split(separator); }

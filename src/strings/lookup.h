@@ -11,6 +11,8 @@
 namespace strings {
 
 QString text(const Constant& constant);
+// The text of a menu item or button without its mnemonic, "(&S)" or "&", for a dialog's title.
+QString withoutMnemonic(const Constant& constant);
 // The text's fields, split at the separator (the headings, the era menu).
 QStringList fields(const Constant& constant, QChar separator);
 

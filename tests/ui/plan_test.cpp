@@ -4,6 +4,7 @@
 #include "uitest.h"
 
 #include "planner/planwindow.h"
+#include "strings/lookup.h"
 
 #include <QChartView>
 #include <QClipboard>
@@ -13,6 +14,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -85,6 +87,23 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     w->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(open.isNull()) << "closed with its window";
+}
+
+TEST(PlanWindow, EveryMnemonicIsUniqueAndDialogsShowNoneInEachLanguage) {
+    for (const bool japanese : {false, true}) {
+        const std::unique_ptr<Japanese> translation(japanese ? new Japanese : nullptr);
+        auto window = std::make_unique<MainWindow>();
+        window->showPlan();
+        std::map<QKeySequence, QString> taken;
+        for (const QPushButton* button : window->findChild<planner::PlanWindow*>()->findChildren<QPushButton*>()) {
+            const QKeySequence key = QKeySequence::mnemonic(button->text());
+            EXPECT_FALSE(key.isEmpty()) << button->text().toStdString();
+            EXPECT_TRUE(taken.emplace(key, button->text()).second)
+                << button->text().toStdString() << " and " << taken[key].toStdString();
+        }
+        EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv),
+                  japanese ? "返済表を CSV で保存..." : "Save Schedule as CSV...");
+    }
 }
 
 TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {

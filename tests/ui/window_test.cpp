@@ -42,6 +42,8 @@ TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
     for (const QWidget* button : {w->BevelNewNext, w->BevelDispAll, w->BevelDelBelow})
         EXPECT_FALSE(button->isEnabled());
     EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
+    EXPECT_FALSE(w->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(w->windowFlags() & Qt::WindowCloseButtonHint);
 }
 
 // New copies the front window's form (but for the pay day and the delay) and its size, and
