@@ -61,6 +61,7 @@ TEST(ScheduleTool, PlansWithEventsTotalsAndYears) {
         << plan.out;
     EXPECT_NE(plan.out.find("\nPayments: 350\n"), std::string::npos) << plan.out;
     EXPECT_NE(plan.out.find("\nPayments saved: 70 (5 years 10 months)\n"), std::string::npos) << plan.out;
+    EXPECT_NE(plan.out.find("\nBreak-even payment: no fees\n"), std::string::npos) << plan.out;
     EXPECT_EQ(run(loan + "--events - --totals --last 1", "< /dev/null").out.find("Prepaid"), std::string::npos);
     const auto file = std::filesystem::temp_directory_path() / "kestrune-events.txt";
     std::ofstream(file) << "# refinancing\nrate 61 0.9\n\nfee\t61\t330000\n";
@@ -114,20 +115,21 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
 TEST(ScheduleTool, TotalsFollowTheRowsOfASpreadsheet) {
     // 24 days at 1.5 %: Round(1,200,000 x 0.015 / 365.2422 x 24) = 1,183; the prepayment of 100,000
     // with payment 2 lowers the payment to the annuity of 700,663 over 4 months.
-    EXPECT_EQ(run(kLoan2020 + "--principal 1,200,000 --rate 1.5 --times 6 --prepay 2:100,000:reduce --fee 3:5,000 "
-                              "--totals --format csv")
-                  .out,
-              "No.,Repayment,Amount,Principal,Interest,Prepaid,Balance\r\n"
-              "001,20.04.08,\"200,876\",\"199,693\",\"1,183\",0,\"1,000,307\"\r\n"
-              "002,20.05.08,\"200,876\",\"199,644\",\"1,232\",\"100,000\",\"700,663\"\r\n"
-              "003,20.06.08,\"175,713\",\"174,821\",892,0,\"525,842\"\r\n"
-              "004,20.07.08,\"175,713\",\"175,065\",648,0,\"350,777\"\r\n"
-              "005,20.08.08,\"175,713\",\"175,266\",447,0,\"175,511\"\r\n"
-              "006,20.09.08,\"175,734\",\"175,511\",223,0,0\r\n"
-              "\r\n"
-              "Payments,6\r\nPaid,\"1,209,625\"\r\nPrincipal,\"1,100,000\"\r\nInterest,\"4,625\"\r\n"
-              "Prepaid,\"100,000\"\r\nFees,\"5,000\"\r\nPayoff,2020 / 9 / 8 \r\nInterest saved,314\r\n"
-              "Payments saved,0 (0 years 0 months)\r\nNet saving,\"-4,686\"\r\nBreak-even payment,none\r\n");
+    EXPECT_EQ(
+        run(kLoan2020 + "--principal 1,200,000 --rate 1.5 --times 6 --prepay 2:100,000:reduce --fee 3:5,000 "
+                        "--totals --format csv")
+            .out,
+        "No.,Repayment,Amount,Principal,Interest,Prepaid,Balance\r\n"
+        "001,20.04.08,\"200,876\",\"199,693\",\"1,183\",0,\"1,000,307\"\r\n"
+        "002,20.05.08,\"200,876\",\"199,644\",\"1,232\",\"100,000\",\"700,663\"\r\n"
+        "003,20.06.08,\"175,713\",\"174,821\",892,0,\"525,842\"\r\n"
+        "004,20.07.08,\"175,713\",\"175,065\",648,0,\"350,777\"\r\n"
+        "005,20.08.08,\"175,713\",\"175,266\",447,0,\"175,511\"\r\n"
+        "006,20.09.08,\"175,734\",\"175,511\",223,0,0\r\n"
+        "\r\n"
+        "Payments,6\r\nPaid,\"1,209,625\"\r\nPrincipal,\"1,100,000\"\r\nInterest,\"4,625\"\r\n"
+        "Prepaid,\"100,000\"\r\nFees,\"5,000\"\r\nPayoff,2020 / 9 / 8 \r\nInterest saved,314\r\n"
+        "Payments saved,0 (0 years 0 months)\r\nNet saving,\"-4,686\"\r\nBreak-even payment,not within the loan\r\n");
 }
 
 // 600,000 by equal principal at 3 % over 6 payments from Heisei 30-11-20, with 100,000 prepaid
@@ -140,16 +142,17 @@ const std::string kPlan = "--era heisei --year 30 --month 11 --day 20 --principa
 
 TEST(ScheduleTool, APlanReadWholeInEachFormat) {
     const std::pair<std::string, std::string> cases[] = {
-        {"--totals", "Pay off: Heisei  31 / 4 / 8 \n\n"
-                     "No.  Repayment   Amount  Principal  Interest  Prepaid  Balance\n"
-                     "001  30.12.08   100,887    100,000       887        0  500,000\n"
-                     "002  31.01.08   101,273    100,000     1,273  100,000  300,000\n"
-                     "003  31.02.08   100,382    100,000       382        0  200,000\n"
-                     "004  31.03.08   100,230    100,000       230        0  100,000\n"
-                     "005  31.04.08   100,127    100,000       127        0        0\n"
-                     "\nPayments: 5\nPaid: 604,899\nPrincipal: 500,000\nInterest: 2,899\nPrepaid: 100,000\n"
-                     "Fees: 2,000\nPayoff: Heisei  31 / 4 / 8 \nInterest saved: 1,725\n"
-                     "Payments saved: 1 (0 years 1 months)\nNet saving: -275\nBreak-even payment: none\n"},
+        {"--totals",
+         "Pay off: Heisei  31 / 4 / 8 \n\n"
+         "No.  Repayment   Amount  Principal  Interest  Prepaid  Balance\n"
+         "001  30.12.08   100,887    100,000       887        0  500,000\n"
+         "002  31.01.08   101,273    100,000     1,273  100,000  300,000\n"
+         "003  31.02.08   100,382    100,000       382        0  200,000\n"
+         "004  31.03.08   100,230    100,000       230        0  100,000\n"
+         "005  31.04.08   100,127    100,000       127        0        0\n"
+         "\nPayments: 5\nPaid: 604,899\nPrincipal: 500,000\nInterest: 2,899\nPrepaid: 100,000\n"
+         "Fees: 2,000\nPayoff: Heisei  31 / 4 / 8 \nInterest saved: 1,725\n"
+         "Payments saved: 1 (0 years 1 months)\nNet saving: -275\nBreak-even payment: not within the loan\n"},
         {"--format tsv --first 4", "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n"
                                    "004\t31.03.08\t100,230\t100,000\t230\t0\t100,000\n"
                                    "005\t31.04.08\t100,127\t100,000\t127\t0\t0\n"},
@@ -159,7 +162,8 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
          "\"887\", \"0\", \"500,000\"]], \"totals\": {\"payments\": \"5\", \"paid\": \"604,899\", \"principal\": "
          "\"500,000\", \"interest\": \"2,899\", \"prepaid\": \"100,000\", \"fees\": \"2,000\", \"payoff\": "
          "\"Heisei  31 / 4 / 8 \"}, \"savings\": {\"interest saved\": \"1,725\", \"payments saved\": "
-         "\"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even payment\": \"none\"}, \"events\": "
+         "\"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even payment\": \"not within the loan\"}, "
+         "\"events\": "
          "[\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 2000\"]}\n"},
         {"--by-year", "Year  Era year   Payments   Amount  Principal  Interest  Prepaid   Fees  Balance\n"
                       "2018  Heisei 30         1  100,887    100,000       887        0      0  500,000\n"
@@ -170,7 +174,8 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
          "\"5\", \"paid\": \"604,899\", \"principal\": \"500,000\", \"interest\": \"2,899\", \"prepaid\": "
          "\"100,000\", \"fees\": \"2,000\", \"payoff\": \"Heisei  31 / 4 / 8 \"}, \"savings\": {\"interest saved\": "
          "\"1,725\", \"payments saved\": \"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even "
-         "payment\": \"none\"}, \"events\": [\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 2000\"], "
+         "payment\": \"not within the loan\"}, \"events\": [\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 "
+         "2000\"], "
          "\"years\": [[\"2018\", \"Heisei 30\", \"1\", \"100,887\", \"100,000\", \"887\", \"0\", \"0\", "
          "\"500,000\"], [\"2019\", \"Heisei 31\", \"4\", \"402,012\", \"400,000\", \"2,012\", \"100,000\", "
          "\"2,000\", \"0\"]]}\n"},

@@ -399,11 +399,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>%1（%2 年 %3 か月）</translation>
     </message>
     <message>
-        <source>kNone</source>
-        <comment>none</comment>
-        <translation>なし</translation>
-    </message>
-    <message>
         <source>kYearHeader</source>
         <comment>Year	Era year	Payments	Amount	Principal	Interest	Prepaid	Fees	Balance</comment>
         <translation>西暦	和暦	回数	返済額	元金	利息	繰上返済	手数料	残高</translation>
@@ -472,6 +467,16 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kPrint</source>
         <comment>&amp;Print...</comment>
         <translation>印刷(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>kNoFees</source>
+        <comment>no fees</comment>
+        <translation>手数料なし</translation>
+    </message>
+    <message>
+        <source>kNotEarnedBack</source>
+        <comment>not within the loan</comment>
+        <translation>完済までに回収できません</translation>
     </message>
 </context>
 </TS>

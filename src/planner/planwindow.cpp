@@ -261,7 +261,7 @@ void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
     const std::int64_t saved = savings.paymentsSaved;
     const QString breakEven =
         savings.breakEven ? QString::number(*savings.breakEven) + " (" + date(savings.breakEvenDate).trimmed() + ")"
-                          : text(strings::kNone);
+                          : text(totals.fees > 0 ? strings::kNotEarnedBack : strings::kNoFees);
     const QString values[] = {QString::number(totals.payments),
                               amount(totals.paid),
                               amount(totals.interest),

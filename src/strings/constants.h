@@ -139,7 +139,9 @@ inline constexpr Constant kTotalNames =
                   "Payments\tTotal paid\tTotal interest\tTotal prepaid\tFees\tPay off\tInterest saved\tPayments "
                   "saved\tNet saving\tBreak-even payment");
 inline constexpr Constant kYearsMonths = KESTRUNE_TEXT("PlanWindow", "kYearsMonths", "%1 (%2 years %3 months)");
-inline constexpr Constant kNone = KESTRUNE_TEXT("PlanWindow", "kNone", "none");
+// Why a plan has no break-even payment.
+inline constexpr Constant kNoFees = KESTRUNE_TEXT("PlanWindow", "kNoFees", "no fees");
+inline constexpr Constant kNotEarnedBack = KESTRUNE_TEXT("PlanWindow", "kNotEarnedBack", "not within the loan");
 inline constexpr Constant kYearHeader = KESTRUNE_TEXT(
     "PlanWindow", "kYearHeader", "Year\tEra year\tPayments\tAmount\tPrincipal\tInterest\tPrepaid\tFees\tBalance");
 inline constexpr Constant kChartNames =
@@ -200,12 +202,12 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kSaveCsv,        kPrint,
                                           kExportPdf,      kTabs,
                                           kTotalNames,     kYearsMonths,
-                                          kNone,           kYearHeader,
-                                          kChartNames,     kPointer,
-                                          kEventsTitle,    kSaveFailed,
-                                          kPrintFailed,    kReportFailed,
-                                          kWritingReport,  kCancel,
-                                          kPasteRefused,   kLineTooLong,
-                                          kTooManyLines};
+                                          kNoFees,         kNotEarnedBack,
+                                          kYearHeader,     kChartNames,
+                                          kPointer,        kEventsTitle,
+                                          kSaveFailed,     kPrintFailed,
+                                          kReportFailed,   kWritingReport,
+                                          kCancel,         kPasteRefused,
+                                          kLineTooLong,    kTooManyLines};
 
 } // namespace strings

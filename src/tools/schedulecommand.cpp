@@ -160,9 +160,10 @@ totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSav
                                {"payments saved", runtime::Str(saved) + " (" + runtime::Str(saved / 12) + " years " +
                                                       runtime::Str(saved % 12) + " months)"},
                                {"net saving", amount(savings->netSaving)}});
+    const std::string_view none = totals.fees > 0 ? strings::kNotEarnedBack.defaultText : strings::kNoFees.defaultText;
     lines.emplace_back("break-even payment", savings->breakEven ? runtime::Str(*savings->breakEven) + " (" +
                                                                       date(savings->breakEvenDate) + ")"
-                                                                : "none");
+                                                                : std::string(none));
     return lines;
 }
 

@@ -316,6 +316,7 @@ TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
     plan->Events->item(1, 2)->setText("2");
     EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), "");
     EXPECT_EQ(figure(0), "411");
+    EXPECT_EQ(figure(9), "no fees") << "the break-even payment";
 }
 
 TEST_F(PlanTest, AnOversizedPasteIsRefusedWithItsReason) {
