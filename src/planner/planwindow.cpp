@@ -7,6 +7,7 @@
 #include "planner/report.h"
 #include "planner/savefile.h"
 #include "runtime/numbers.h"
+#include "shell/app.h"
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
 #include "table/export.h"
@@ -121,6 +122,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
                                                           "plan.pdf", "PDF (*.pdf)");
         if (!path.isEmpty()) exportPdf(path);
     });
+    // New and Quit answer their keys here as in every window of the program.
+    addActions({shell::App::instance()->fileNewAction(), shell::App::instance()->fileQuitAction()});
     // Copy Schedule answers its key wherever the focus is in this window.
     auto* copyScheduleKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this);
     connect(copyScheduleKey, &QShortcut::activated, this, &PlanWindow::copySchedule);

@@ -83,6 +83,14 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     setForm(form);
     EXPECT_EQ(plan->windowTitle(), "Plan: Flat payment, 30,000,000 at 1.5 %, 360 payments");
     EXPECT_EQ(figure(0), "360");
+    // New and Quit from the Plan window, as from every window.
+    QSignalSpy quit(shell::App::instance()->fileQuitAction(), &QAction::triggered);
+    showActive(plan);
+    QTest::keyClick(plan->Events, Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(shell::App::instance()->mainWindows().size(), 2) << "Ctrl+N";
+    showActive(plan);
+    QTest::keyClick(plan->Events, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quit.count(), 1) << "Ctrl+Q";
     QPointer<planner::PlanWindow> open = plan;
     w->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
