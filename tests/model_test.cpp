@@ -208,6 +208,13 @@ RandomPlan randomPlan(std::mt19937_64& random) {
             e.value = std::round(principal * static_cast<double>(pick(0, 120)) / 100.0 / (pick(0, 1) ? 1 : 20));
             e.mode = static_cast<PrepayMode>(pick(0, 1));
             if (pick(0, 2) == 0) e.every = pick(1, std::min<std::int64_t>(count, 24));
+            // Now and then another of the series before it: its mode and period, from a later payment.
+            const PlanEvent& before = r.events.empty() ? e : r.events.back();
+            if (before.every > 0 && pick(0, 1) == 0 && before.payment + before.every <= count) {
+                e.mode = before.mode;
+                e.every = before.every;
+                e.payment = before.payment + before.every * pick(1, (count - before.payment) / before.every);
+            }
         }
         // Now and then an amount that no plan can hold.
         if (pick(0, 300) == 0) e.value = e.kind == EventKind::RateChange ? 1e300 : 5e15;

@@ -325,6 +325,10 @@ TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
     EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), "");
     EXPECT_EQ(figure(0), "411");
     EXPECT_EQ(figure(9), "no fees") << "the break-even payment";
+    // Refused by its total paid, though every row holds: still no rows.
+    paste("fee 1 5,000,000,000,000,000\nfee 2 5,000,000,000,000,000\n");
+    EXPECT_EQ(plan->Events->item(3, 0)->toolTip(), why);
+    EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
 }
 
 TEST_F(PlanTest, AnOversizedPasteIsRefusedWithItsReason) {
