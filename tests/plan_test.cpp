@@ -100,6 +100,10 @@ TEST(Plan, EventLinesReadAndWrittenBack) {
     for (const auto& [line, why] : errors) EXPECT_EQ(readEvent(line, 420).error, why) << line;
     EXPECT_TRUE(readEvent("rate 1 1e300", 420).event) << "a rate is no amount: the walk refuses it";
     EXPECT_TRUE(readEvent("fee 1 9007199254740992", 420).event);
+    // The last payment of the longest loan takes its events.
+    LoanForm longest = tinyLoan();
+    longest.times = "100000";
+    EXPECT_EQ(evaluatePlan(longest, {*readEvent("fee 100000 5", 100000).event}).totals.fees, 5.0);
 }
 
 TEST(Plan, TextsAreReadWithinTheirBounds) {

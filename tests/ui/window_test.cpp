@@ -44,6 +44,21 @@ TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
     EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
     EXPECT_FALSE(w->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     EXPECT_TRUE(w->windowFlags() & Qt::WindowCloseButtonHint);
+    // The number and the date centred, the amounts to the right.
+    const QAbstractItemModel* model = w->ListBox1->model();
+    for (int column = 0; column < model->columnCount(); ++column)
+        EXPECT_EQ(model->index(0, column).data(Qt::TextAlignmentRole).value<Qt::Alignment>(),
+                  Qt::AlignVCenter | (column >= int{table::kAmount} ? Qt::AlignRight : Qt::AlignHCenter))
+            << column;
+}
+
+TEST_F(WindowTest, ThePayoffDateNamesItsEraInTheUsersLanguage) {
+    Japanese japanese;
+    engine::LoanForm form = loan2020();
+    form.era = calendar::kReiwa;
+    form.date.year = "2";
+    setForm(form);
+    EXPECT_EQ(w->Kansai->text(), "令和  14 年 3 月 8 日");
 }
 
 // New copies the front window's form (but for the pay day and the delay) and its size, and
