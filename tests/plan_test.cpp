@@ -81,6 +81,7 @@ TEST(Plan, EventLinesReadAndWrittenBack) {
     const std::pair<const char*, const char*> lines[] = {
         {"prepay 12 1,000,000 reduce every 12", "prepay 12 1000000 reduce every 12"},
         {"prepay\t3\t500", "prepay 3 500 shorten"},
+        {"prepay 3 500 every 1", "prepay 3 500 shorten every 1"},
         {"rate 61 1.5", "rate 61 1.5"},
         {"fee 61 330000", "fee 61 330000"},
     };

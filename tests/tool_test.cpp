@@ -153,6 +153,11 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
          "\nPayments: 5\nPaid: 604,899\nPrincipal: 500,000\nInterest: 2,899\nPrepaid: 100,000\n"
          "Fees: 2,000\nPayoff: Heisei  31 / 4 / 8 \nInterest saved: 1,725\n"
          "Payments saved: 1 (0 years 1 months)\nNet saving: -275\nBreak-even payment: not within the loan\n"},
+        {"--totals --last 0 --format tsv", "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n\n"
+                                           "Payments\t5\nPaid\t604,899\nPrincipal\t500,000\nInterest\t2,899\n"
+                                           "Prepaid\t100,000\nFees\t2,000\nPayoff\tHeisei  31 / 4 / 8 \n"
+                                           "Interest saved\t1,725\nPayments saved\t1 (0 years 1 months)\n"
+                                           "Net saving\t-275\nBreak-even payment\tnot within the loan\n"},
         {"--format tsv --first 4", "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n"
                                    "004\t31.03.08\t100,230\t100,000\t230\t0\t100,000\n"
                                    "005\t31.04.08\t100,127\t100,000\t127\t0\t0\n"},

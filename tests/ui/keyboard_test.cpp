@@ -45,6 +45,10 @@ TEST_F(WindowTest, CopyTakesTheSelectedRowsWhicheverControlHasTheFocus) {
     w->Kaisu->selectAll();
     pressCopy();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "144") << "a field's selected text is the field's";
+    w->Kaisu->clear();
+    edit = openMenu("EditMenu");
+    QTest::mouseClick(edit, Qt::LeftButton, {}, edit->actionGeometry(menuItem(w, "EditPaste")).center());
+    EXPECT_EQ(w->Kaisu->text(), "144") << "Edit > Paste into a field with nothing selected";
 }
 
 TEST_F(WindowTest, EditOffersTheCommandsOfTheFocusedControlAfterAnotherMenuIsDismissed) {

@@ -170,7 +170,7 @@ TEST_F(PlanTest, TheScheduleIsTheToolsForEitherMethod) {
 }
 
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
-    paste("fee 1 10\nrate 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
+    paste("fee 1 10\nprepay 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
         const QRect cell = plan->Events->visualItemRect(plan->Events->item(row, 0));
         QTest::mouseClick(plan->Events->viewport(), Qt::LeftButton, keys, cell.center());
@@ -178,7 +178,7 @@ TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     click(1, {});
     click(2, Qt::ControlModifier);
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "rate 2 1\nprepay 3 1,000 reduce every 12\n");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "prepay 2 1\nprepay 3 1,000 reduce every 12\n");
     QTest::keyClick(plan->Events, Qt::Key_Delete);
     ASSERT_EQ(plan->Events->rowCount(), 2);
     EXPECT_EQ(plan->Events->item(1, 2)->text(), "40");
@@ -198,7 +198,7 @@ TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
 QString message(QWidget* window) {
     auto* box = window->findChild<QMessageBox*>();
     if (!box) return {};
-    const QString said = box->text();
+    const QString said = box->isVisible() ? box->text() : "(a message not shown)";
     delete box;
     return said;
 }
