@@ -62,6 +62,7 @@ TEST_F(WindowTest, EditOffersTheCommandsOfTheFocusedControlAfterAnotherMenuIsDis
     clickRow(2);
     openEditFromFile();
     EXPECT_TRUE(menuItem(w, "EditCopy")->isEnabled());
+    EXPECT_FALSE(menuItem(w, "EditPaste")->isEnabled()) << "nothing pastes into the table";
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
 
     QTest::mouseClick(w->Kaisu, Qt::LeftButton);
