@@ -159,8 +159,8 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
                                            "Interest saved\t1,725\nPayments saved\t1 (0 years 1 months)\n"
                                            "Net saving\t-275\nBreak-even payment\tnot within the loan\n"},
         {"--format tsv --first 4 --last -2", "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n"
-                                   "004\t31.03.08\t100,230\t100,000\t230\t0\t100,000\n"
-                                   "005\t31.04.08\t100,127\t100,000\t127\t0\t0\n"},
+                                             "004\t31.03.08\t100,230\t100,000\t230\t0\t100,000\n"
+                                             "005\t31.04.08\t100,127\t100,000\t127\t0\t0\n"},
         {"--format json --totals --last 1",
          "{\"payoff\": \"Heisei  31 / 4 / 8 \", \"header\": [\"No.\", \"Repayment\", \"Amount\", \"Principal\", "
          "\"Interest\", \"Prepaid\", \"Balance\"], \"rows\": [[\"001\", \"30.12.08\", \"100,887\", \"100,000\", "

@@ -108,6 +108,13 @@ TEST_F(TableTest, RecombinationMovesTheRowsBelowToANewWindow) {
     EXPECT_EQ(next->ListBox1->Cell(0, table::kDate), "01.12.20");
     EXPECT_EQ(next->ListBox1->Cell(122, table::kBalance), "0");
     EXPECT_EQ(next->size(), w->size());
+    // From the first payment too: the other 143 move.
+    next->close();
+    setForm(loan2020());
+    clickRow(0);
+    w->BevelNewNext->click();
+    EXPECT_EQ(rows(), 1);
+    EXPECT_EQ(newestWindow()->ListBox1->ListCount(), 143);
 }
 
 } // namespace
