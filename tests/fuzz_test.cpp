@@ -4,18 +4,14 @@
 // KESTRUNE_FUZZ_RUNS and KESTRUNE_FUZZ_SEED run it longer or elsewhere.
 #include "tools/schedulecommand.h"
 
+#include "settings.h"
+
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <random>
 #include <sstream>
 
 namespace {
-
-std::uint64_t setting(const char* name, std::uint64_t fallback) {
-    const char* value = std::getenv(name);
-    return value ? std::strtoull(value, nullptr, 10) : fallback;
-}
 
 std::vector<std::string> split(const std::string& text) {
     std::vector<std::string> words(1);

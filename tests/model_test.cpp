@@ -7,9 +7,11 @@
 #include "engine/plan.h"
 #include "runtime/numbers.h"
 
+#include "settings.h"
+
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <cmath>
 #include <random>
 
 namespace engine {
@@ -221,11 +223,6 @@ RandomPlan randomPlan(std::mt19937_64& random) {
         r.events.push_back(e);
     }
     return r;
-}
-
-std::uint64_t setting(const char* name, std::uint64_t fallback) {
-    const char* value = std::getenv(name);
-    return value ? std::strtoull(value, nullptr, 10) : fallback;
 }
 
 std::string describe(const RandomPlan& r) {

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <sstream>
 
 using namespace engine;
@@ -56,7 +55,7 @@ TEST(Plan, PrepaymentsShortenOrReduce) {
     }
 }
 
-TEST(Plan, RateChangesActFromTheirPeriodAndBeforeAPrepayment) {
+TEST(Plan, ARateChangeActsFromThePeriodThatEndsWithItsPayment) {
     LoanForm form = tinyLoan();
     form.principal = "1,000,000";
     form.rate = "1";
@@ -65,16 +64,6 @@ TEST(Plan, RateChangesActFromTheirPeriodAndBeforeAPrepayment) {
     const auto equal = calculate(form, {}, events({"rate 2 12"}, 2)).payments;
     EXPECT_EQ(equal[0].interest, 657.0) << "24 days at 1 %";
     EXPECT_EQ(equal[1].interest, 4928.0);
-    // Flat payment: from payment 2 of 3 the payment is the annuity of what is left at 12 % over 2
-    // months, Round(1.01^2 x 0.01 x B / (1.01^2 - 1)); the prepayment of payment 2 then lowers B.
-    form.times = "3";
-    form.flatPayment = true;
-    const auto flat = calculate(form, {}, events({"prepay 2 100000 reduce", "rate 2 12"}, 3)).payments;
-    const double b = flat[0].balance, t = 1.01 * 1.01;
-    EXPECT_EQ(flat[1].amount, std::round(t * 0.01 * b / (t - 1.0)));
-    EXPECT_EQ(flat[1].prepaid, 100000.0);
-    EXPECT_EQ(flat[2].amount, flat[2].principal + flat[2].interest);
-    EXPECT_EQ(flat[2].balance, 0.0);
 }
 
 TEST(Plan, EventLinesReadAndWrittenBack) {

@@ -159,16 +159,6 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
 }
 
-TEST_F(PlanTest, TheScheduleIsTheToolsForEitherMethod) {
-    engine::LoanForm form = w->loanForm();
-    form.flatPayment = false;
-    setForm(form);
-    paste("prepay 12 500000 reduce every 12\nrate 100 3\n");
-    QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    std::string expected = tool("--prepay 12:500000:reduce:every=12 --rate-change 100:3 --method equal");
-    EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() == expected);
-}
-
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     paste("fee 1 10\nprepay 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
