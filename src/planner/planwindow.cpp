@@ -4,7 +4,6 @@
 #include "engine/calculation.h"
 #include "form/amountfields.h"
 #include "planner/cellsmodel.h"
-#include "planner/report.h"
 #include "planner/savefile.h"
 #include "runtime/numbers.h"
 #include "shell/app.h"
@@ -445,7 +444,7 @@ bool PlanWindow::saveCsv(const QString& path) {
     return error.isEmpty();
 }
 
-PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
+Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     ReportContent content;
     content.title = windowTitle();
     content.events.headings = strings::fields(strings::kEventHeader, '\t');
@@ -485,13 +484,10 @@ PlanWindow::Outcome PlanWindow::paintReport(QPagedPaintDevice& device) {
                              static_cast<int>(payments->size()), this);
     progress.setWindowModality(Qt::ApplicationModal);
     progress.setMinimumDuration(300);
-    const Painted painted = planner::paintReport(device, content, [&progress](std::size_t done, std::size_t) {
+    return planner::paintReport(device, content, [&progress](std::size_t done, std::size_t) {
         progress.setValue(static_cast<int>(done));
         return !progress.wasCanceled();
     });
-    return painted == Painted::Done        ? Outcome::Done
-           : painted == Painted::Cancelled ? Outcome::Cancelled
-                                           : Outcome::Failed;
 }
 
 bool PlanWindow::exportPdf(const QString& path) {
@@ -504,9 +500,9 @@ bool PlanWindow::exportPdf(const QString& path) {
     writer.setResolution(300);
     writer.setTitle(windowTitle());
     writer.setCreator(text(strings::kAppName));
-    const Outcome painted = paintReport(writer);
-    if (painted == Outcome::Cancelled) return false;
-    const QString error = painted == Outcome::Failed ? text(strings::kReportFailed) : saveWhole(path, pdf);
+    const Painted painted = paintReport(writer);
+    if (painted == Painted::Cancelled) return false;
+    const QString error = painted == Painted::Failed ? text(strings::kReportFailed) : saveWhole(path, pdf);
     if (!error.isEmpty()) showSaveError(this, path, error);
     return error.isEmpty();
 }
@@ -516,7 +512,7 @@ void PlanWindow::print() {
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    if (paintReport(printer) == Outcome::Failed || printer.printerState() == QPrinter::Error)
+    if (paintReport(printer) == Painted::Failed || printer.printerState() == QPrinter::Error)
         warn(this, text(strings::kPrintFailed));
 }
 

@@ -5,6 +5,7 @@
 // copied, saved as CSV, printed or exported as PDF. It follows its main window's calculations.
 
 #include "engine/plan.h"
+#include "planner/report.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -61,8 +62,7 @@ private:
     void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
     void print();
     // Paints the report with a progress dialog that can cancel it.
-    enum class Outcome { Done, Cancelled, Failed };
-    Outcome paintReport(QPagedPaintDevice& device);
+    Painted paintReport(QPagedPaintDevice& device);
 
     QPointer<shell::MainWindow> m_main;
     CellsModel* m_schedule;

@@ -13,9 +13,8 @@ namespace {
 // Paints from the top of a page down, starting a new page where the next thing doesn't fit.
 class PageFlow {
 public:
-    PageFlow(QPagedPaintDevice& device, QPainter& painter,
-             const std::function<bool(std::size_t, std::size_t)>& progress, std::size_t rows)
-        : m_device(device), m_painter(painter), m_progress(progress), m_rows(rows),
+    PageFlow(QPagedPaintDevice& device, const std::function<bool(std::size_t, std::size_t)>& progress, std::size_t rows)
+        : m_device(device), m_progress(progress), m_rows(rows),
           m_page(device.pageLayout().paintRectPixels(device.logicalDpiX())), m_y(0) {
         m_page.moveTo(0, 0); // the painter's origin is the paint rectangle's corner
     }
@@ -36,7 +35,6 @@ public:
 
 private:
     QPagedPaintDevice& m_device;
-    QPainter& m_painter;
     const std::function<bool(std::size_t, std::size_t)>& m_progress;
     std::size_t m_rows, m_rowsDone = 0;
     QRect m_page;
@@ -110,7 +108,7 @@ Painted paintReport(QPagedPaintDevice& device, const ReportContent& content,
     QFont font = painter.font();
     font.setPointSizeF(9);
     painter.setFont(font);
-    PageFlow flow(device, painter, progress, content.schedule.rowCount);
+    PageFlow flow(device, progress, content.schedule.rowCount);
     const auto paint = [&]() {
         QFont title = font;
         title.setPointSizeF(14);
