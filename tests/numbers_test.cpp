@@ -23,6 +23,7 @@ TEST(Val, ReadsTheNumberAtTheHeadOfTheText) {
         {"", 0.0},        {"  12", 12.0},    {"1,000", 1.0},
         {"1E+2x", 100.0}, {"12.7abc", 12.7}, {"1e999", kMax},
         {"1e-999", 0.0},  {"nan", 0.0},      {std::string(10000, '9'), kMax},
+        {" +7.5", 7.5},
     };
     for (const auto& c : cases) EXPECT_EQ(Val(c.text), c.value) << "Val(\"" << c.text.substr(0, 20) << "\")";
 }
