@@ -8,95 +8,80 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <random>
 #include <sstream>
 
 namespace {
 
-std::vector<std::string> split(const std::string& text) {
+std::vector<std::string> split(std::string_view text, char apart) {
     std::vector<std::string> words(1);
-    for (const char c : text) {
-        if (c == '|')
-            words.emplace_back();
-        else
-            words.back().push_back(c);
-    }
+    for (const char c : text) c == apart ? (void)words.emplace_back() : words.back().push_back(c);
     return words;
 }
 
+// Random options and events texts: mostly well formed, with numbers at and past every limit, the
+// words of the options and events, and bytes a terminal or UTF-8 reader could trip on.
 class Inputs {
 public:
     explicit Inputs(std::uint64_t seed) : m_random(seed) {}
 
-    // A word as a user, a script or an attacker might give it.
     std::string word() {
-        // Numbers at and past every limit, separators, the words of the options and events, and
-        // bytes a terminal or UTF-8 reader could trip on; '|' between them.
         static const std::vector<std::string> kWords = split(
             "0|1|-1|12|144|420|100000|100001|1.5|0.0001|1e300|-1e300|1e-300|9007199254740992|9007199254740993|"
             "9223372036854775807|-9223372036854775808|99999999999999999999|30,000,000|,5|1.|.|nan|inf|| |reduce|"
-            "shorten|every|prepay|rate|fee|#|western|showa|heisei|reiwa|flat|equal|next|2after|table|csv|tsv|json|-|"
-            "\x1b[31m|\xff\xfe|\xe2\x82\xac|\t|\r");
+            "shorten|every|prepay|rate|fee|#|western|heisei|equal|next|2after|json|-|\x1b[31m|\xff\xfe|\xe2\x82\xac|"
+            "\t|\r",
+            '|');
         switch (pick(40)) {
         case 0: return std::string(pick(3000), static_cast<char>(pick(256)));
         case 1:
-        case 2:
-        case 3: return std::to_string(static_cast<std::int64_t>(m_random()) >> pick(64));
+        case 2: return std::to_string(static_cast<std::int64_t>(m_random()) >> pick(64));
         default: return kWords[pick(kWords.size())];
         }
     }
-
-    // A number as a field or an event might hold it, now and then anything.
     std::string number() {
         if (pick(8) == 0) return word();
         return std::to_string(pick(2) ? pick(500) : pick(100'000'000)) +
                (pick(4) ? "" : "." + std::to_string(pick(100)));
     }
-
-    // An event line, well formed but for what its numbers say, or now and then anything.
+    // A payment of the loan, now and then one past it.
+    std::string payment() { return std::to_string(1 + pick(pick(30) ? m_times : m_times + 10)); }
+    // A prepayment's fields after its amount, with `apart` between them.
+    std::string prepayment(const char* apart, const char* every) {
+        std::string fields = pick(2) ? "" : std::string(apart) + (pick(2) ? "reduce" : "shorten");
+        if (pick(3) == 0) fields += apart + std::string(every) + (pick(6) ? std::to_string(1 + pick(60)) : word());
+        return fields;
+    }
     std::string eventLine() {
         if (pick(50) == 0) return word() + " " + word() + " " + word();
         static const char* const kKinds[] = {"prepay", "rate", "fee"};
-        const std::string kind = kKinds[pick(3)];
-        std::string line = kind + " " + payment() + " " + number();
-        if (kind != "prepay") return line;
-        if (pick(2)) line += pick(2) ? " reduce" : " shorten";
-        if (pick(3) == 0) line += " every " + (pick(6) ? std::to_string(1 + pick(60)) : word());
-        return line;
+        const std::size_t kind = pick(3);
+        return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
     }
-
-    // A payment of the loan, now and then one past it.
-    std::string payment() { return std::to_string(1 + pick(pick(30) ? m_times : m_times + 10)); }
-
-    // A value for the option: one it takes, now and then anything.
     std::string value(const std::string& option) {
-        static const std::pair<const char*, std::vector<const char*>> kChoices[] = {
+        static const std::map<std::string, std::vector<const char*>> kChoices{
             {"--era", {"western", "showa", "heisei", "reiwa"}},
             {"--delay", {"next", "2after", "3after"}},
             {"--method", {"flat", "equal"}},
             {"--format", {"table", "tsv", "csv", "json"}}};
         if (pick(20) == 0) return word();
-        for (const auto& [name, words] : kChoices)
-            if (option == name) return words[pick(words.size())];
-        if (option == "--prepay" || option == "--rate-change" || option == "--fee") {
-            std::string line = payment() + ":" + number();
-            if (pick(2)) line += pick(2) ? ":reduce" : ":shorten";
-            if (pick(3) == 0) line += ":every=" + std::to_string(1 + pick(60));
-            return line;
-        }
+        if (const auto words = kChoices.find(option); words != kChoices.end())
+            return words->second[pick(words->second.size())];
+        if (option == "--prepay") return payment() + ":" + number() + prepayment(":", "every=");
+        if (option == "--rate-change" || option == "--fee") return payment() + ":" + number();
         return number();
     }
-
     std::vector<std::string> options() {
-        static const char* const kOptions[] = {"--principal", "--rate",   "--first",   "--last",        "--era",
-                                               "--year",      "--month",  "--day",     "--pay-day",     "--delay",
-                                               "--method",    "--format", "--prepay",  "--rate-change", "--fee",
-                                               "--prepay",    "--totals", "--by-year", "--totals",      "--by-year"};
+        static const std::vector<std::string> kOptions =
+            split("--principal --rate --first --last --era --year --month --day --pay-day --delay --method --format "
+                  "--prepay --rate-change --fee --prepay --totals --by-year",
+                  ' ');
         // Loans short enough to walk quickly, with now and then the longest.
         m_times = pick(20) == 0 ? 100'000 : 1 + pick(600);
         std::vector<std::string> args{"--times", std::to_string(m_times)};
         for (std::size_t n = pick(8); n > 0; --n) {
-            const std::string option = kOptions[pick(std::size(kOptions))];
+            const std::string option = kOptions[pick(kOptions.size())];
             if (option == "--totals" || option == "--by-year")
                 args.push_back(pick(50) ? option : pick(2) ? "--help" : word());
             else if (pick(2))
@@ -106,8 +91,6 @@ public:
         }
         return args;
     }
-
-    // An events text: lines of events and of anything else.
     std::string eventsText() {
         std::string text;
         for (std::size_t n = pick(30); n > 0; --n) text += eventLine() + (pick(10) ? "\n" : "\r\n");

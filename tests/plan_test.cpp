@@ -55,17 +55,6 @@ TEST(Plan, PrepaymentsShortenOrReduce) {
     }
 }
 
-TEST(Plan, ARateChangeActsFromThePeriodThatEndsWithItsPayment) {
-    LoanForm form = tinyLoan();
-    form.principal = "1,000,000";
-    form.rate = "1";
-    form.times = "2";
-    // Payment 2 (30 days from 8 April) at 12 %: Round(500,000 x 0.12 / 365.2422 x 30) = 4,928.
-    const auto equal = calculate(form, {}, events({"rate 2 12"}, 2)).payments;
-    EXPECT_EQ(equal[0].interest, 657.0) << "24 days at 1 %";
-    EXPECT_EQ(equal[1].interest, 4928.0);
-}
-
 TEST(Plan, TheBreakEvenPaymentIsTheOneWhoseSavingMeetsTheFees) {
     LoanForm form = tinyLoan();
     form.principal = "1,200,000";

@@ -63,6 +63,9 @@ protected:
                                     " --era western --year 2020 --month 3 --day 15 --principal 30,000,000 --rate 1.5"
                                     " --times 420 --method flat --format tsv " +
                                     events;
+        return output(command);
+    }
+    static std::string output(const std::string& command) {
         std::string out;
         FILE* pipe = popen(command.c_str(), "r");
         for (int c; (c = std::fgetc(pipe)) != EOF;) out += static_cast<char>(c);
@@ -207,17 +210,11 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsEventsTotalsAndEveryPayment) {
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     EXPECT_EQ(message(plan), "");
     // Its text as pdftotext reads it, each line's words one blank apart.
-    FILE* pipe = popen(("pdftotext -layout " + dir.filePath("plan.pdf").toStdString() + " -").c_str(), "r");
-    std::string text, line;
-    for (int c; (c = std::fgetc(pipe)) != EOF;) {
-        if (c != '\n') {
-            line += static_cast<char>(c);
-            continue;
-        }
-        text += QString::fromStdString(line).simplified().toStdString() + "\n";
-        line.clear();
-    }
-    pclose(pipe);
+    std::string text;
+    for (const QString& line :
+         QString::fromStdString(output("pdftotext -layout " + dir.filePath("plan.pdf").toStdString() + " -"))
+             .split('\n'))
+        text += line.simplified().toStdString() + "\n";
     const std::string expected[] = {
         "Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments\n",
         "Payment Kind Value Mode Every\n12 prepay 500000 reduce 12\n13 fee 1,000\n",
