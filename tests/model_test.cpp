@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A reference model of the plan rules, written again from the README as plainly as possible
-// (every event looked at for every payment, sums in straight loops), checked against the engine on
-// random plans: every payment, the totals, the savings with the break-even payment and every
-// year. It shares with the engine only its types and the Round, Pow and Date primitives.
+// A reference model of the plan rules and the lender terms, written again from the README as
+// plainly as possible (every event looked at for every payment, sums in straight loops), checked
+// against the engine on random plans: every payment, the totals, the savings with the break-even
+// payment and every year. It shares with the engine only its types and the Round, Pow and Date primitives.
 // KESTRUNE_MODEL_PLANS and KESTRUNE_MODEL_SEED run more plans or others.
 #include "engine/plan.h"
 #include "runtime/numbers.h"
@@ -32,10 +32,25 @@ using engine::PrepayMode;
 
 constexpr double kLimit = 9007199254740992.0; // 2^53: amounts beyond it are refused
 
-double annuity(double balance, double annual, std::int64_t count) {
+// Halves away from zero, or toward zero where the lender cuts amounts to the yen.
+double toYen(double amount, bool down) { return down ? std::trunc(amount) : runtime::Round(amount); }
+
+double annuity(double balance, double annual, std::int64_t count, bool down) {
     const double monthly = annual / 12.0;
     const double t = runtime::Pow(1.0 + monthly, static_cast<double>(count));
-    return runtime::Round(((t * monthly) * balance) / (t - 1.0));
+    return toYen(((t * monthly) * balance) / (t - 1.0), down);
+}
+
+// A lender's interest by months for a whole balance at a rate of whole hundredths of a percent:
+// balance x rate / 12 a month and / 365 a day, in integers, rounded once.
+double interestByMonths(double balance, double ratePercent, std::int64_t months, std::int64_t days, bool down) {
+    __extension__ typedef __int128 Wide;
+    const Wide numerator = static_cast<Wide>(balance) * std::llround(ratePercent * 100) * (months * 365 + days * 12);
+    const Wide denominator = 1200 * 365 * 100;
+    Wide whole = numerator / denominator;
+    const Wide twice = 2 * (numerator % denominator);
+    if (!down && (twice >= denominator || -twice >= denominator)) whole += numerator < 0 ? -1 : 1;
+    return static_cast<double>(whole);
 }
 
 bool beyond(double amount) { return !(amount >= -kLimit && amount <= kLimit); }
@@ -47,12 +62,14 @@ bool due(const PlanEvent& e, std::int64_t n) {
 }
 
 // The plan's payments, or none where an amount is beyond 2^53.
-std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const std::vector<PlanEvent>& events) {
+std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const engine::LenderTerms& terms,
+                                         const std::vector<PlanEvent>& events) {
+    const bool down = terms.rounding == engine::Rounding::Down;
     std::vector<Payment> paid;
-    double annual = loan.annualRate;
+    double annual = loan.annualRate, percent = loan.ratePercent;
     double balance = loan.principal;
-    double payment = loan.flatPayment ? annuity(balance, annual, loan.paymentCount) : 0.0;
-    double principalEach = loan.flatPayment ? 0.0 : runtime::Round(balance / static_cast<double>(loan.paymentCount));
+    double payment = loan.flatPayment ? annuity(balance, annual, loan.paymentCount, down) : 0.0;
+    double principalEach = loan.flatPayment ? 0.0 : toYen(balance / static_cast<double>(loan.paymentCount), down);
     if (beyond(balance) || beyond(payment) || beyond(principalEach)) return std::nullopt;
     bool shortened = false;
     calendar::Date before = loan.dates.borrowed, date = loan.dates.firstPayment;
@@ -60,11 +77,24 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const s
         // A rate change sets the rate of the period that ends with its payment; the last one counts.
         for (const PlanEvent& e : events) {
             if (e.kind != EventKind::RateChange || !due(e, n)) continue;
+            percent = e.value;
             annual = e.value / 100.0;
-            if (loan.flatPayment) payment = annuity(balance, annual, loan.paymentCount - n + 1);
+            if (loan.flatPayment) payment = annuity(balance, annual, loan.paymentCount - n + 1, down);
         }
         const double days = static_cast<double>((date.days() - before.days()).count());
-        const double interest = runtime::Round(balance * (annual / 365.2422) * days);
+        double interest = toYen(balance * (annual / 365.2422) * days, down);
+        if (terms.interest == engine::InterestRule::Monthly && n > 1) {
+            interest = interestByMonths(balance, percent, 1, 0, down);
+        } else if (terms.interest == engine::InterestRule::Monthly) {
+            // Whole months from the borrowing day, each ending on that day or its month's last.
+            std::int64_t months = 0;
+            const auto monthEnd = [&before](std::int64_t m) {
+                return calendar::Date(before.Year(), before.Month() + m, before.Day());
+            };
+            while (monthEnd(months + 1).days() <= date.days()) ++months;
+            interest =
+                interestByMonths(balance, percent, months, (date.days() - monthEnd(months).days()).count(), down);
+        }
         Payment p{n, date, 0, 0, interest, 0};
         const double regular = loan.flatPayment ? payment - interest : principalEach;
         const bool last = n == loan.paymentCount || (shortened && regular >= balance);
@@ -88,9 +118,9 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const s
             const std::int64_t left = loan.paymentCount - n;
             if (balance > 0 && left > 0) {
                 if (loan.flatPayment)
-                    payment = annuity(balance, annual, left);
+                    payment = annuity(balance, annual, left, down);
                 else
-                    principalEach = runtime::Round(balance / static_cast<double>(left));
+                    principalEach = toYen(balance / static_cast<double>(left), down);
             }
         }
         if (anyShorten && balance > 0) {
@@ -136,9 +166,9 @@ bool exact(const engine::PlanTotals& t) {
     return !beyond(t.paid) && !beyond(t.principal) && !beyond(t.interest) && !beyond(t.prepaid) && !beyond(t.fees);
 }
 
-Model model(const engine::LoanRecord& loan, const std::vector<PlanEvent>& events) {
+Model model(const engine::LoanRecord& loan, const engine::LenderTerms& terms, const std::vector<PlanEvent>& events) {
     Model m;
-    const auto plan = walk(loan, events), base = walk(loan, {});
+    const auto plan = walk(loan, terms, events), base = walk(loan, terms, {});
     if (!plan || !base || !exact(totalsOf(*plan)) || !exact(totalsOf(*base))) return m;
     m.refused = false;
     m.plan = *plan;
@@ -180,6 +210,7 @@ Model model(const engine::LoanRecord& loan, const std::vector<PlanEvent>& events
 struct RandomPlan {
     engine::LoanForm form;
     std::vector<PlanEvent> events;
+    engine::LenderTerms terms;
 };
 
 RandomPlan randomPlan(std::mt19937_64& random) {
@@ -197,6 +228,8 @@ RandomPlan randomPlan(std::mt19937_64& random) {
                    std::to_string(pick(1, 31))};
     r.form.delay = static_cast<int>(pick(0, 2));
     r.form.flatPayment = pick(0, 1) == 1;
+    r.terms = {pick(0, 1) ? engine::InterestRule::Monthly : engine::InterestRule::Daily,
+               pick(0, 1) ? engine::Rounding::Down : engine::Rounding::Nearest};
     const double principal = std::stod(r.form.principal);
     for (std::int64_t n = pick(0, 8); n > 0; --n) {
         PlanEvent e;
@@ -230,6 +263,7 @@ std::string describe(const RandomPlan& r) {
                        std::to_string(r.form.era) + " " + r.form.date.year + "-" + r.form.date.month + "-" +
                        r.form.date.day + " day " + r.form.date.payDay + " delay " + std::to_string(r.form.delay) +
                        (r.form.flatPayment ? " flat" : " equal");
+    for (const std::string& line : engine::termLines(r.terms)) text += " | " + line;
     for (const PlanEvent& e : r.events) text += " | " + engine::eventLine(e);
     return text;
 }
@@ -240,10 +274,10 @@ TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
     std::size_t refused = 0, cleared = 0, brokeEven = 0;
     for (std::uint64_t i = 0; i < plans; ++i) {
         const RandomPlan r = randomPlan(random);
-        const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events);
+        const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events, r.terms);
         const std::string where = "seed " + std::to_string(seed) + " plan " + std::to_string(i) + ": " + describe(r);
         if (engine.base.refusal == engine::Refusal::ZeroInput) continue;
-        const Model m = model(engine.base.record, r.events);
+        const Model m = model(engine.base.record, r.terms, r.events);
         ASSERT_EQ(engine.refusal != engine::Refusal::None, m.refused) << where;
         if (m.refused) {
             ++refused;

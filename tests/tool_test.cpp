@@ -45,6 +45,11 @@ TEST(ScheduleTool, PrintsTheTableInEachFormat) {
               "{\"payoff\": \"2032 / 3 / 8 \", \"header\": [\"No.\", \"Repayment\", \"Amount\", \"Principal\", "
               "\"Interest\", \"Balance\"], \"rows\": [[\"002\", \"20.05.08\", \"781,684\", \"618,478\", "
               "\"163,206\", \"98,731,258\"]]}\n");
+    // By months, cut to the yen: 99,349,823 x 2 % / 12 = 165,583.04 after a payment of 781,683.
+    EXPECT_EQ(run(kLoan2020 + "--interest monthly --rounding down --first 2 --last 2 --format json").out,
+              "{\"payoff\": \"2032 / 3 / 8 \", \"header\": [\"No.\", \"Repayment\", \"Amount\", \"Principal\", "
+              "\"Interest\", \"Balance\"], \"rows\": [[\"002\", \"20.05.08\", \"781,683\", \"616,100\", "
+              "\"165,583\", \"98,733,723\"]], \"terms\": [\"interest monthly\", \"rounding down\"]}\n");
     EXPECT_EQ(run("--era=western --year=2020 --month=3 --day=15 --method=flat --last=1").out,
               run(kLoan2020 + "--last 1").out)
         << "--option=value";
@@ -85,6 +90,7 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--rate", 2, "kestrune-schedule: missing value for --rate\n"},
         {"--prepay 145:100", 2, "kestrune-schedule: bad event: payment outside 1 to the count: prepay 145 100\n"},
         {"--fee 3:-5", 2, "kestrune-schedule: bad event: negative amount: fee 3 -5\n"},
+        {"--rounding up", 2, "kestrune-schedule: bad term: rounding takes nearest or down: rounding up\n"},
         {"--prepay 1:1000:every=9223372036854775807", 2,
          "kestrune-schedule: bad event: every takes a count of payments from 1 to the count: prepay 1 1000 every "
          "9223372036854775807\n"},

@@ -18,15 +18,18 @@ LoanTerms readLoanForm(const LoanForm& form) {
     // The zero test reads the raw texts: ",5" is a zero principal.
     terms.zeroInput = Val(form.principal) == 0.0 || Val(form.rate) == 0.0 || Val(form.times) == 0.0;
     terms.principal = Val(runtime::withoutCommas(form.principal));
-    terms.annualRate = Val(form.rate) / 100.0;
+    terms.ratePercent = Val(form.rate);
+    terms.annualRate = terms.ratePercent / 100.0;
     terms.paymentCount = std::clamp(runtime::intVal(form.times), -kMaxPayments, kMaxPayments);
     terms.dateLine = calendar::readDateLine(form.era, form.date, form.delay);
     terms.flatPayment = form.flatPayment;
     return terms;
 }
 
-LoanRecord settleLoan(const LoanTerms& terms) {
+LoanRecord settleLoan(const LoanTerms& terms, const LenderTerms& lender) {
     LoanRecord record;
+    record.lender = lender;
+    record.ratePercent = terms.ratePercent;
     record.flatPayment = terms.flatPayment;
     record.principal = terms.principal;
     record.paymentCount = terms.paymentCount;
@@ -35,20 +38,21 @@ LoanRecord settleLoan(const LoanTerms& terms) {
     record.payDay = terms.dateLine.payDay;
     record.dates = calendar::loanDates(terms.dateLine, terms.paymentCount);
     if (terms.flatPayment)
-        record.fixedPayment = annuityPayment(record.principal, terms.annualRate, terms.paymentCount);
+        record.fixedPayment = annuityPayment(record.principal, terms.annualRate, terms.paymentCount, lender.rounding);
     else
-        record.fixedPrincipal = runtime::Round(record.principal / static_cast<double>(terms.paymentCount));
+        record.fixedPrincipal = roundBy(record.principal / static_cast<double>(terms.paymentCount), lender.rounding);
     return record;
 }
 
-Calculation calculate(const LoanForm& form, const ListedRange& listed, const std::vector<PlanEvent>& events) {
+Calculation calculate(const LoanForm& form, const ListedRange& listed, const std::vector<PlanEvent>& events,
+                      const LenderTerms& lender) {
     Calculation calc;
     calc.terms = readLoanForm(form);
     if (calc.terms.zeroInput) {
         calc.refusal = Refusal::ZeroInput;
         return calc;
     }
-    calc.record = settleLoan(calc.terms);
+    calc.record = settleLoan(calc.terms, lender);
     const double fixedAmount = calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal;
     // The principal as typed, not as a double rounds it: 2^53 + 1 is beyond.
     const long double typed = runtime::wideVal(runtime::withoutCommas(form.principal));

@@ -10,7 +10,7 @@
 namespace engine {
 
 // The record of a loan read from the form: its dates, daily rate and fixed amount.
-LoanRecord settleLoan(const LoanTerms& terms);
+LoanRecord settleLoan(const LoanTerms& terms, const LenderTerms& lender = {});
 
 enum class Refusal {
     None,
@@ -25,7 +25,8 @@ struct Calculation {
     std::vector<Payment> payments;
 };
 
-// With events, the calculation of a plan; refused as without.
-Calculation calculate(const LoanForm& form, const ListedRange& listed = {}, const std::vector<PlanEvent>& events = {});
+// With events and lender terms, the calculation of a plan; refused as without.
+Calculation calculate(const LoanForm& form, const ListedRange& listed = {}, const std::vector<PlanEvent>& events = {},
+                      const LenderTerms& lender = {});
 
 } // namespace engine

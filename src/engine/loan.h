@@ -4,6 +4,7 @@
 // a calculation settles from them.
 
 #include "calendar/loandates.h"
+#include "engine/lender.h"
 
 #include <cstdint>
 #include <string>
@@ -45,6 +46,7 @@ struct ListedRange {
 struct LoanTerms {
     bool zeroInput = false;        // principal, rate or count reads as zero (commas not removed)
     double principal = 0.0;        // commas removed
+    double ratePercent = 0.0;      // 2 for 2 %, as typed
     double annualRate = 0.0;       // a fraction, 0.02 for 2 %
     std::int64_t paymentCount = 0; // within kMaxPayments
     calendar::DateLine dateLine;
@@ -58,11 +60,13 @@ struct LoanRecord {
     double fixedPayment = 0.0;   // flat payment: principal and interest of each payment
     double fixedPrincipal = 0.0; // equal principal: the principal of each payment
     double principal = 0.0;
-    double annualRate = 0.0; // a fraction
-    double dailyRate = 0.0;  // interest per day, as a fraction of the balance
+    double ratePercent = 0.0; // as typed: the decimal a lender computes with
+    double annualRate = 0.0;  // a fraction
+    double dailyRate = 0.0;   // interest per day, as a fraction of the balance
     std::int64_t paymentCount = 0;
     std::int64_t payDay = 0; // of each month, as read: beyond a month's length, its last day
     calendar::LoanDates dates;
+    LenderTerms lender;
 };
 
 } // namespace engine

@@ -162,18 +162,18 @@ bool exactTotals(const PlanTotals& totals) {
 }
 
 // The plan calculated whole, refused also where a total is beyond what a double holds exactly.
-Calculation planCalculation(const LoanForm& form, const std::vector<PlanEvent>& events) {
-    Calculation calc = calculate(form, {}, events);
+Calculation planCalculation(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender) {
+    Calculation calc = calculate(form, {}, events, lender);
     if (calc.refusal == Refusal::None && !exactTotals(planTotals(calc.payments))) calc.refusal = Refusal::OutOfRange;
     return calc;
 }
 
 } // namespace
 
-PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events) {
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender) {
     PlanOutcome outcome;
-    outcome.base = planCalculation(form, {});
-    outcome.plan = events.empty() ? outcome.base : planCalculation(form, events);
+    outcome.base = planCalculation(form, {}, lender);
+    outcome.plan = events.empty() ? outcome.base : planCalculation(form, events, lender);
     outcome.refusal = outcome.base.refusal != Refusal::None ? outcome.base.refusal : outcome.plan.refusal;
     if (outcome.refusal != Refusal::None) {
         if (outcome.base.refusal == Refusal::None) {
@@ -182,7 +182,7 @@ PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& eve
             while (refused - fine > 1) {
                 const std::size_t middle = fine + (refused - fine) / 2;
                 const std::vector<PlanEvent> head(events.begin(), events.begin() + static_cast<std::ptrdiff_t>(middle));
-                (planCalculation(form, head).refusal == Refusal::None ? fine : refused) = middle;
+                (planCalculation(form, head, lender).refusal == Refusal::None ? fine : refused) = middle;
             }
             outcome.refusedBy = refused - 1;
         }

@@ -86,8 +86,9 @@ struct YearFigures {
 };
 std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments);
 
-// A plan worked out: the loan of the form with its events and without them, and what the plan
-// comes to. Refused as the calculation is, and also where a total goes beyond kMaxExactAmount.
+// A plan worked out: the loan of the form with its events and without them, both on the lender
+// terms, and what the plan comes to. Refused as the calculation is, and also where a total goes
+// beyond kMaxExactAmount.
 struct PlanOutcome {
     Refusal refusal = Refusal::None;
     // Where the loan without events is fine and the plan is not: the first event that, added to
@@ -99,6 +100,6 @@ struct PlanOutcome {
     PlanSavings savings;
     std::vector<YearFigures> years;
 };
-PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events);
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender = {});
 
 } // namespace engine

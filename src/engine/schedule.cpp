@@ -92,10 +92,10 @@ private:
 
 } // namespace
 
-double annuityPayment(double balance, double annualRate, std::int64_t payments) {
+double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule) {
     const double monthly = annualRate / 12.0;
     const double t = runtime::Pow(1.0 + monthly, static_cast<double>(payments));
-    return runtime::Round(((t * monthly) * balance) / (t - 1.0));
+    return roundBy(((t * monthly) * balance) / (t - 1.0), rule);
 }
 
 std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed,
@@ -111,6 +111,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
     double principal = record.fixedPrincipal; // equal principal: the regular principal
     double dailyRate = record.dailyRate;
     double annualRate = record.annualRate;
+    double ratePercent = record.ratePercent;
+    const Rounding rounding = record.lender.rounding;
     bool shortened = false; // a prepayment shortens the loan: it ends when its principal is paid
     Agenda agenda(events);
     calendar::Date previous = record.dates.borrowed;
@@ -120,12 +122,20 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
         const std::int64_t n = i + 1;
         const DueEvents due = agenda.at(n);
         if (due.rate) {
-            annualRate = *due.rate / 100.0;
+            ratePercent = *due.rate;
+            annualRate = ratePercent / 100.0;
             dailyRate = annualRate / kDaysInYear;
-            if (record.flatPayment) amount = annuityPayment(balance, annualRate, record.paymentCount - i);
+            if (record.flatPayment) amount = annuityPayment(balance, annualRate, record.paymentCount - i, rounding);
         }
-        const auto days = static_cast<double>(calendar::daysBetween(previous, current));
-        const double interest = runtime::Round((balance * dailyRate) * days);
+        double interest = 0.0;
+        if (record.lender.interest == InterestRule::Monthly) {
+            // A whole month whatever its days; the first period its whole months and the days left.
+            const MonthsAndDays span = i == 0 ? monthsAndDays(previous, current) : MonthsAndDays{1, 0};
+            interest = monthlyInterest(balance, ratePercent, span, rounding);
+        } else {
+            const auto days = static_cast<double>(calendar::daysBetween(previous, current));
+            interest = roundBy((balance * dailyRate) * days, rounding);
+        }
         const double regularPrincipal = record.flatPayment ? amount - interest : principal;
         bool ends = false;
         if (i == record.paymentCount - 1 || (shortened && regularPrincipal >= balance)) {
@@ -152,9 +162,9 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             const std::int64_t left = record.paymentCount - n;
             if (balance > 0.0 && left > 0) {
                 if (record.flatPayment)
-                    amount = annuityPayment(balance, annualRate, left);
+                    amount = annuityPayment(balance, annualRate, left, rounding);
                 else
-                    principal = runtime::Round(balance / static_cast<double>(left));
+                    principal = roundBy(balance / static_cast<double>(left), rounding);
             }
         }
         if (due.anyShorten && balance > 0.0) {

@@ -11,8 +11,9 @@
 
 namespace engine {
 
-// The flat payment that repays the balance in that many monthly payments at the annual rate.
-double annuityPayment(double balance, double annualRate, std::int64_t payments);
+// The flat payment that repays the balance in that many monthly payments at the annual rate,
+// to the yen by the rule.
+double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule = Rounding::Nearest);
 
 struct Payment {
     std::int64_t number; // from 1

@@ -48,8 +48,13 @@ them into the form. No field corrections are applied. Each option is given as
                      payment; every=M repeats it every M payments
   --rate-change N:RATE  the annual rate RATE from the period that ends with payment N
   --fee N:AMOUNT     a cost paid with payment N (a refinancing or prepayment fee)
+  --interest RULE    daily (the default): each period's actual days at rate / 365.2422 a day;
+                     monthly, as lenders count: rate / 12 a month whatever its days, and the
+                     first period's whole months at rate / 12 and its days left at rate / 365
+  --rounding RULE    nearest (the default) or down: every amount computed is cut to the yen
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
-                     "fee 61 330000"; blank lines and lines from # are skipped
+                     "fee 61 330000", and terms, as "interest monthly", "rounding down";
+                     blank lines and lines from # are skipped
   --totals           after the table (in tsv and csv after a blank line), the totals and, with
                      events, the savings against the same loan without them
   --by-year          the figures of each calendar year instead of the rows
@@ -59,7 +64,7 @@ An events text holds at most {lines} lines of at most {length} characters.
 
 Exit status: 0 with the table printed; 1 when the calculation is refused (a zero principal,
 rate or count, or amounts beyond 2^53) or the output cannot be written; 2 for a bad option,
-event or events file.
+term, event or events file.
 )";
 
 // The usage with the defaults of a new form filled in.
@@ -209,8 +214,12 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     int method = 1;
     bool showTotals = false, byYear = false;
     std::vector<std::string> eventLines;
-    const std::map<std::string, std::string> eventKinds{
-        {"--prepay", "prepay"}, {"--rate-change", "rate"}, {"--fee", "fee"}};
+    // Events and terms given as options become the lines of a plan's text.
+    const std::map<std::string, std::string> eventKinds{{"--prepay", "prepay"},
+                                                        {"--rate-change", "rate"},
+                                                        {"--fee", "fee"},
+                                                        {"--interest", "interest"},
+                                                        {"--rounding", "rounding"}};
 
     const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
                                                     {"--times", &form.times},         {"--month", &form.date.month},
@@ -269,7 +278,12 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     if (eventLines.size() > engine::kMaxPlanLines)
         return usageError(err, "more than " + std::to_string(engine::kMaxPlanLines) + " events");
     std::vector<engine::PlanEvent> events;
+    engine::LenderTerms terms;
     for (const std::string& line : eventLines) {
+        if (const engine::TermReading term = engine::readTerm(line, terms); term.isTerm) {
+            if (!term.error.empty()) return usageError(err, "bad term: " + term.error);
+            continue;
+        }
         const auto reading = engine::readEvent(line, engine::readLoanForm(form).paymentCount);
         if (!reading.event) return usageError(err, "bad event: " + reading.error);
         events.push_back(*reading.event);
@@ -277,8 +291,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const bool plan = !events.empty() || showTotals || byYear;
 
     // A plan counts all its payments, whatever rows are listed.
-    const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events) : engine::PlanOutcome{};
-    const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed);
+    const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events, terms) : engine::PlanOutcome{};
+    const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed, {}, terms);
     const engine::Refusal refusal = plan ? outcome.refusal : calc.refusal;
     if (refusal == engine::Refusal::ZeroInput) {
         err << "kestrune-schedule: principal, rate and count must be non-zero\n";
@@ -341,6 +355,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         };
         if (plan) out << ", \"totals\": " << object(0, 7);
         if (savings) out << ", \"savings\": " << object(7, lines.size());
+        if (const table::Cells set = engine::termLines(terms); !set.empty()) out << ", \"terms\": " << jsonArray(set);
         if (!events.empty()) {
             table::Cells read;
             for (const auto& event : events) read.push_back(engine::eventLine(event));
