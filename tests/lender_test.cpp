@@ -50,16 +50,16 @@ TEST(Lender, TheWalkCountsAndRoundsByTheTerms) {
     };
     const Case cases[] = {
         {true,
-         {InterestRule::Daily, Rounding::Down},
+         {InterestRule::Daily, Rounding::Down, {}},
          {{334'222, 331'857, 2'365, 668'143}, {334'222, 333'315, 907, 334'828}, {335'268, 334'828, 440, 0}}},
         {true,
-         {InterestRule::Monthly, Rounding::Nearest},
+         {InterestRule::Monthly, Rounding::Nearest, {}},
          {{334'223, 331'881, 2'342, 668'119}, {334'223, 333'332, 891, 334'787}, {335'233, 334'787, 446, 0}}},
         {true,
-         {InterestRule::Monthly, Rounding::Down},
+         {InterestRule::Monthly, Rounding::Down, {}},
          {{334'222, 331'881, 2'341, 668'119}, {334'222, 333'332, 890, 334'787}, {335'233, 334'787, 446, 0}}},
         {false,
-         {InterestRule::Monthly, Rounding::Down},
+         {InterestRule::Monthly, Rounding::Down, {}},
          {{335'674, 333'333, 2'341, 666'667}, {334'221, 333'333, 888, 333'334}, {333'778, 333'334, 444, 0}}},
     };
     for (const Case& c : cases) {

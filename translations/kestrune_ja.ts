@@ -345,6 +345,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <comment>Prepaid</comment>
         <translation>繰上返済</translation>
     </message>
+    <message>
+        <source>kBonusHeading</source>
+        <comment>Bonus</comment>
+        <translation>ボーナス</translation>
+    </message>
 </context>
 <context>
     <name>PlanWindow</name>

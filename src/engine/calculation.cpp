@@ -37,10 +37,20 @@ LoanRecord settleLoan(const LoanTerms& terms, const LenderTerms& lender) {
     record.dailyRate = terms.annualRate / kDaysInYear;
     record.payDay = terms.dateLine.payDay;
     record.dates = calendar::loanDates(terms.dateLine, terms.paymentCount);
+    // The monthly part: all of the principal but a bonus part's.
+    record.bonusAmount = lender.bonus ? lender.bonus->amount : 0.0;
+    const double monthly = record.principal - record.bonusAmount;
     if (terms.flatPayment)
-        record.fixedPayment = annuityPayment(record.principal, terms.annualRate, terms.paymentCount, lender.rounding);
+        record.fixedPayment = annuityPayment(monthly, terms.annualRate, terms.paymentCount, lender.rounding);
     else
-        record.fixedPrincipal = roundBy(record.principal / static_cast<double>(terms.paymentCount), lender.rounding);
+        record.fixedPrincipal = roundBy(monthly / static_cast<double>(terms.paymentCount), lender.rounding);
+    const std::int64_t bonusPayments =
+        lender.bonus ? lender.bonus->bonusPayments(record.dates.firstPayment.Month(), 1, terms.paymentCount) : 0;
+    if (bonusPayments <= 0) return record; // a bonus part without payments is refused
+    if (terms.flatPayment)
+        record.bonusPayment = annuityPayment(record.bonusAmount, terms.annualRate, bonusPayments, lender.rounding, 2);
+    else
+        record.bonusPrincipal = roundBy(record.bonusAmount / static_cast<double>(bonusPayments), lender.rounding);
     return record;
 }
 
@@ -53,10 +63,17 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
         return calc;
     }
     calc.record = settleLoan(calc.terms, lender);
+    calc.termsProblem = termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(),
+                                     calc.record.paymentCount);
+    if (!calc.termsProblem.empty()) {
+        calc.refusal = Refusal::BadTerms;
+        return calc;
+    }
     const double fixedAmount = calc.record.flatPayment ? calc.record.fixedPayment : calc.record.fixedPrincipal;
+    const double bonusAmount = calc.record.flatPayment ? calc.record.bonusPayment : calc.record.bonusPrincipal;
     // The principal as typed, not as a double rounds it: 2^53 + 1 is beyond.
     const long double typed = runtime::wideVal(runtime::withoutCommas(form.principal));
-    const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount);
+    const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount) && isExactAmount(bonusAmount);
     auto payments = exact ? walkSchedule(calc.record, listed, events) : std::nullopt;
     if (!payments) {
         calc.refusal = Refusal::OutOfRange;

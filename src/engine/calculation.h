@@ -5,6 +5,7 @@
 #include "engine/loan.h"
 #include "engine/schedule.h"
 
+#include <string>
 #include <vector>
 
 namespace engine {
@@ -16,6 +17,7 @@ enum class Refusal {
     None,
     ZeroInput,  // principal, rate or count reads as zero
     OutOfRange, // an amount is beyond what a double holds to the unit
+    BadTerms,   // the lender terms don't fit the loan
 };
 
 struct Calculation {
@@ -23,6 +25,7 @@ struct Calculation {
     LoanTerms terms;
     LoanRecord record;
     std::vector<Payment> payments;
+    std::string termsProblem; // why the terms are refused
 };
 
 // With events and lender terms, the calculation of a plan; refused as without.

@@ -82,10 +82,57 @@ double monthlyInterest(double balance, double ratePercent, MonthsAndDays span, R
     return static_cast<double>(quotient);
 }
 
+bool BonusPart::isBonusPayment(std::int64_t firstMonth, std::int64_t n) const {
+    const std::int64_t month = (firstMonth - 1 + n - 1) % 12 + 1;
+    return month == months[0] || month == months[1];
+}
+
+std::int64_t BonusPart::bonusPayments(std::int64_t firstMonth, std::int64_t from, std::int64_t to) const {
+    // Payments n whose month (firstMonth - 2 + n) % 12 + 1 is m: n = m + 1 - firstMonth (mod 12).
+    std::int64_t count = 0;
+    for (const std::int64_t m : months) {
+        const auto upTo = [&](std::int64_t last) {
+            const std::int64_t start = ((m + 1 - firstMonth) % 12 + 12) % 12; // the first such n >= 0
+            return last < start ? 0 : (last - start) / 12 + 1;
+        };
+        count += upTo(to) - upTo(from - 1);
+    }
+    return count;
+}
+
+std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments) {
+    if (!terms.bonus) return {};
+    if (terms.bonus->amount > principal / 2)
+        return "the bonus part " + runtime::Format(terms.bonus->amount, "###,###,###,###,###") +
+               " is more than half the principal";
+    if (terms.bonus->bonusPayments(firstMonth, 1, payments) == 0)
+        return "no payment falls in month " + runtime::Str(terms.bonus->months[0]) + " or " +
+               runtime::Str(terms.bonus->months[1]);
+    return {};
+}
+
 TermReading readTerm(std::string_view line, LenderTerms& terms) {
     std::vector<std::string> words;
     std::istringstream in{std::string(line)};
     for (std::string word; in >> word;) words.push_back(word);
+    if (!words.empty() && words[0] == "bonus") {
+        const std::string why = "bonus takes an amount above 0 and two different months from 1 to 12: ";
+        BonusPart bonus;
+        const std::string plain = words.size() > 1 ? runtime::withoutCommas(words[1]) : "";
+        const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), bonus.amount);
+        bool good = (words.size() == 2 || words.size() == 4) && !plain.empty() && error == std::errc{} &&
+                    end == plain.data() + plain.size() && bonus.amount > 0 &&
+                    runtime::wideVal(plain) <= 9'007'199'254'740'992.0L;
+        for (std::size_t i = 0; good && words.size() == 4 && i < 2; ++i) {
+            const std::string& word = words[2 + i];
+            const auto [last, bad] = std::from_chars(word.data(), word.data() + word.size(), bonus.months[i]);
+            good = bad == std::errc{} && last == word.data() + word.size() && bonus.months[i] >= 1 &&
+                   bonus.months[i] <= 12;
+        }
+        if (!good || bonus.months[0] == bonus.months[1]) return {true, why + runtime::excerpt(line)};
+        terms.bonus = bonus;
+        return {true, ""};
+    }
     if (words.empty() || (words[0] != "interest" && words[0] != "rounding")) return {};
     const bool interest = words[0] == "interest";
     const char* first = interest ? "daily" : "nearest";
@@ -103,6 +150,9 @@ std::vector<std::string> termLines(const LenderTerms& terms) {
     std::vector<std::string> lines;
     if (terms.interest == InterestRule::Monthly) lines.emplace_back("interest monthly");
     if (terms.rounding == Rounding::Down) lines.emplace_back("rounding down");
+    if (terms.bonus)
+        lines.push_back("bonus " + runtime::Str(terms.bonus->amount) + " " + runtime::Str(terms.bonus->months[0]) + " " +
+                        runtime::Str(terms.bonus->months[1]));
     return lines;
 }
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Lender terms: how a Japanese lender's repayment table counts what the daily rule of the main
-// window counts otherwise. Interest by months instead of by days, and amounts cut to the yen
-// instead of rounded. The defaults are the main window's rules.
+// window counts otherwise. Interest by months instead of by days, amounts cut to the yen instead
+// of rounded, and a bonus part of the loan. The defaults are the main window's rules.
 
 #include "calendar/date.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,9 +18,22 @@ namespace engine {
 enum class InterestRule { Daily, Monthly };
 enum class Rounding { Nearest, Down }; // nearest: halves away from zero; down: toward zero
 
+// A bonus part (ボーナス併用払い): this much of the principal is a loan of its own, repaid by
+// payments made with the regular payments of two months of the year.
+struct BonusPart {
+    double amount = 0.0;
+    std::array<std::int64_t, 2> months{6, 12};
+    // Is payment n (from 1) one of them, for a loan whose first payment falls in firstMonth.
+    bool isBonusPayment(std::int64_t firstMonth, std::int64_t n) const;
+    // How many of the payments from `from` to `to` are.
+    std::int64_t bonusPayments(std::int64_t firstMonth, std::int64_t from, std::int64_t to) const;
+    friend bool operator==(const BonusPart&, const BonusPart&) = default;
+};
+
 struct LenderTerms {
     InterestRule interest = InterestRule::Daily;
     Rounding rounding = Rounding::Nearest;
+    std::optional<BonusPart> bonus;
     friend bool operator==(const LenderTerms&, const LenderTerms&) = default;
 };
 
@@ -40,7 +54,12 @@ MonthsAndDays monthsAndDays(const calendar::Date& borrowed, const calendar::Date
 // writes (0.7, not the binary double nearest it) and the product is formed in 128-bit integers.
 double monthlyInterest(double balance, double ratePercent, MonthsAndDays span, Rounding rule);
 
-// A line of a plan's text that sets a term: "interest daily|monthly", "rounding nearest|down".
+// Why the terms don't fit the loan (a bonus part above half the principal, or with no payment in
+// its months); empty where they do.
+std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments);
+
+// A line of a plan's text that sets a term: "interest daily|monthly", "rounding nearest|down",
+// "bonus AMOUNT [M1 M2]" (months 6 and 12 where none are given).
 // None where the line names no term; an error where it names one with a wrong value.
 struct TermReading {
     bool isTerm = false;

@@ -59,7 +59,10 @@ struct LoanRecord {
     bool flatPayment = false;
     double fixedPayment = 0.0;   // flat payment: principal and interest of each payment
     double fixedPrincipal = 0.0; // equal principal: the principal of each payment
-    double principal = 0.0;
+    double principal = 0.0;      // both parts
+    double bonusAmount = 0.0;    // of the principal, the bonus part: repaid by payments of its own
+    double bonusPayment = 0.0;   // flat payment: principal and interest of each bonus payment
+    double bonusPrincipal = 0.0; // equal principal: the principal of each bonus payment
     double ratePercent = 0.0; // as typed: the decimal a lender computes with
     double annualRate = 0.0;  // a fraction
     double dailyRate = 0.0;   // interest per day, as a fraction of the balance

@@ -92,11 +92,97 @@ private:
 
 } // namespace
 
-double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule) {
-    const double monthly = annualRate / 12.0;
-    const double t = runtime::Pow(1.0 + monthly, static_cast<double>(payments));
-    return roundBy(((t * monthly) * balance) / (t - 1.0), rule);
+double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule, int periodsPerYear) {
+    const double periodic = annualRate / periodsPerYear;
+    const double t = runtime::Pow(1.0 + periodic, static_cast<double>(payments));
+    return roundBy(((t * periodic) * balance) / (t - 1.0), rule);
 }
+
+namespace {
+
+// A part of the loan repaid by payments of its own: the whole loan, or its monthly part and its
+// bonus part. The walk takes each part through the same steps.
+struct Part {
+    double balance = 0.0;
+    double payment = 0.0;   // flat payment: principal and interest of each payment
+    double principal = 0.0; // equal principal: the principal of each payment
+    int periodsPerYear = 12;
+    calendar::Date previous; // where its interest runs from
+    bool paidOnce = false;
+    bool shortened = false; // a prepayment shortens it: it ends when its principal is paid
+    bool ended = false;
+};
+
+struct PartPaid {
+    double amount = 0.0, principal = 0.0, interest = 0.0;
+    bool ends = false;
+};
+
+// The walk's rules for one part at a time.
+struct Rules {
+    const LoanRecord& record;
+    double annualRate, ratePercent, dailyRate;
+
+    double interest(const Part& part, const calendar::Date& date) const {
+        const Rounding rounding = record.lender.rounding;
+        if (record.lender.interest == InterestRule::Monthly) {
+            // A whole period whatever its days; the first one its whole months and the days left.
+            const MonthsAndDays span =
+                part.paidOnce ? MonthsAndDays{12 / part.periodsPerYear, 0} : monthsAndDays(part.previous, date);
+            return monthlyInterest(part.balance, ratePercent, span, rounding);
+        }
+        const auto days = static_cast<double>(calendar::daysBetween(part.previous, date));
+        return roundBy((part.balance * dailyRate) * days, rounding);
+    }
+
+    // Pays the part's payment due on the date; `last` where it is the last of its payments.
+    PartPaid pay(Part& part, const calendar::Date& date, bool last) const {
+        PartPaid paid;
+        paid.interest = interest(part, date);
+        const double regularPrincipal = record.flatPayment ? part.payment - paid.interest : part.principal;
+        if (last || (part.shortened && regularPrincipal >= part.balance)) {
+            // The last payment takes up the difference.
+            paid.principal = part.balance;
+            paid.ends = part.ended = true;
+        } else {
+            paid.principal = regularPrincipal;
+        }
+        paid.amount = paid.principal + paid.interest;
+        if (record.flatPayment && !paid.ends) paid.amount = part.payment;
+        part.balance -= paid.principal;
+        part.previous = date;
+        part.paidOnce = true;
+        return paid;
+    }
+
+    // The part's payment or principal set anew for the payments left.
+    void reset(Part& part, std::int64_t left) const {
+        if (left <= 0) return;
+        if (record.flatPayment)
+            part.payment =
+                annuityPayment(part.balance, annualRate, left, record.lender.rounding, part.periodsPerYear);
+        else
+            part.principal = roundBy(part.balance / static_cast<double>(left), record.lender.rounding);
+    }
+};
+
+// A prepayment split between the parts in proportion to their balances: the bonus part's share
+// by the rule, the monthly part the rest; neither more than its balance, and none to a part that
+// owes nothing (a bonus part repaid, or one that its first short period left overpaid).
+std::pair<double, double> split(double amount, double monthly, double bonus, Rounding rounding) {
+    if (amount >= monthly + bonus) return {monthly, bonus};
+    if (bonus <= 0.0) return {amount, 0.0};
+    if (monthly <= 0.0) return {0.0, amount};
+    double bonusShare = std::min(roundBy(amount * bonus / (monthly + bonus), rounding), bonus);
+    double monthlyShare = amount - bonusShare;
+    if (monthlyShare > monthly) {
+        monthlyShare = monthly;
+        bonusShare = amount - monthly;
+    }
+    return {monthlyShare, bonusShare};
+}
+
+} // namespace
 
 std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed,
                                                  const std::vector<PlanEvent>& events) {
@@ -106,83 +192,76 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
     if (limit > 0 && listed.first <= limit)
         payments.reserve(static_cast<std::size_t>(limit - std::max<std::int64_t>(listed.first, 1) + 1));
 
-    double balance = record.principal;
-    double amount = record.fixedPayment;      // flat payment: the regular payment
-    double principal = record.fixedPrincipal; // equal principal: the regular principal
-    double dailyRate = record.dailyRate;
-    double annualRate = record.annualRate;
-    double ratePercent = record.ratePercent;
-    const Rounding rounding = record.lender.rounding;
-    bool shortened = false; // a prepayment shortens the loan: it ends when its principal is paid
+    Rules rules{record, record.annualRate, record.ratePercent, record.dailyRate};
+    Part monthly{record.principal - record.bonusAmount, record.fixedPayment, record.fixedPrincipal, 12, record.dates.borrowed};
+    Part bonus{record.bonusAmount, record.bonusPayment, record.bonusPrincipal, 2, record.dates.borrowed};
+    bonus.ended = !record.lender.bonus;
+    const std::int64_t firstMonth = record.dates.firstPayment.Month();
+    const auto bonusPaymentsFrom = [&](std::int64_t from) {
+        return record.lender.bonus ? record.lender.bonus->bonusPayments(firstMonth, from, record.paymentCount) : 0;
+    };
     Agenda agenda(events);
-    calendar::Date previous = record.dates.borrowed;
     calendar::Date current = record.dates.firstPayment;
 
     for (std::int64_t i = 0; i < limit; ++i) {
         const std::int64_t n = i + 1;
         const DueEvents due = agenda.at(n);
+        const bool bonusDue = !bonus.ended && record.lender.bonus->isBonusPayment(firstMonth, n);
         if (due.rate) {
-            ratePercent = *due.rate;
-            annualRate = ratePercent / 100.0;
-            dailyRate = annualRate / kDaysInYear;
-            if (record.flatPayment) amount = annuityPayment(balance, annualRate, record.paymentCount - i, rounding);
+            rules.ratePercent = *due.rate;
+            rules.annualRate = rules.ratePercent / 100.0;
+            rules.dailyRate = rules.annualRate / kDaysInYear;
+            if (record.flatPayment) {
+                monthly.payment = annuityPayment(monthly.balance, rules.annualRate, record.paymentCount - i,
+                                                 record.lender.rounding);
+                if (!bonus.ended) rules.reset(bonus, bonusPaymentsFrom(n));
+            }
         }
-        double interest = 0.0;
-        if (record.lender.interest == InterestRule::Monthly) {
-            // A whole month whatever its days; the first period its whole months and the days left.
-            const MonthsAndDays span = i == 0 ? monthsAndDays(previous, current) : MonthsAndDays{1, 0};
-            interest = monthlyInterest(balance, ratePercent, span, rounding);
-        } else {
-            const auto days = static_cast<double>(calendar::daysBetween(previous, current));
-            interest = roundBy((balance * dailyRate) * days, rounding);
-        }
-        const double regularPrincipal = record.flatPayment ? amount - interest : principal;
-        bool ends = false;
-        if (i == record.paymentCount - 1 || (shortened && regularPrincipal >= balance)) {
-            // The last payment takes up the difference.
-            principal = balance;
-            amount = balance + interest;
-            ends = true;
-        } else if (record.flatPayment) {
-            principal = amount - interest;
-        } else {
-            amount = principal + interest;
-        }
-        balance -= principal;
-        Payment paid{n, current, amount, principal, interest, 0.0, 0.0, 0.0};
+        PartPaid paid[2];
+        if (!monthly.ended) paid[0] = rules.pay(monthly, current, i == record.paymentCount - 1);
+        if (bonusDue) paid[1] = rules.pay(bonus, current, bonusPaymentsFrom(n + 1) == 0);
+        Payment row{n,
+                    current,
+                    paid[0].amount + paid[1].amount,
+                    paid[0].principal + paid[1].principal,
+                    paid[0].interest + paid[1].interest,
+                    0.0};
+        row.bonus = paid[1].amount;
 
         // Fees and prepayments come after the regular payment. Prepayments that lower the payment
         // act first and set it from what they leave; those that shorten the loan follow.
+        const auto balance = [&] { return monthly.balance + bonus.balance; };
         double prepaid = 0.0;
         const double fee = due.fee;
-        if (due.anyReduce && balance > 0.0) {
-            const double extra = std::min(due.reduce, balance);
-            prepaid += extra;
-            balance -= extra;
-            const std::int64_t left = record.paymentCount - n;
-            if (balance > 0.0 && left > 0) {
-                if (record.flatPayment)
-                    amount = annuityPayment(balance, annualRate, left, rounding);
-                else
-                    principal = roundBy(balance / static_cast<double>(left), rounding);
+        const auto prepay = [&](double amount) {
+            const auto [toMonthly, toBonus] = split(amount, monthly.balance, bonus.balance, record.lender.rounding);
+            monthly.balance -= toMonthly;
+            bonus.balance -= toBonus;
+            prepaid += toMonthly + toBonus;
+        };
+        if (due.anyReduce && balance() > 0.0) {
+            prepay(due.reduce);
+            if (balance() > 0.0) {
+                rules.reset(monthly, record.paymentCount - n);
+                if (!bonus.ended) rules.reset(bonus, bonusPaymentsFrom(n + 1));
             }
         }
-        if (due.anyShorten && balance > 0.0) {
-            const double extra = std::min(due.shorten, balance);
-            prepaid += extra;
-            balance -= extra;
-            shortened = true;
+        if (due.anyShorten && balance() > 0.0) {
+            prepay(due.shorten);
+            monthly.shortened = bonus.shortened = true;
         }
+        // A part that a prepayment clears is repaid.
+        for (Part* part : {&monthly, &bonus})
+            if (prepaid > 0.0 && part->balance <= 0.0) part->ended = true;
         // What the row shows; a payment carried to the next row is checked there.
-        for (const double figure : {paid.amount, paid.principal, interest, balance, prepaid, fee})
+        for (const double figure : {row.amount, row.principal, row.interest, balance(), prepaid, fee, row.bonus})
             if (!isExactAmount(figure)) return std::nullopt;
-        paid.balance = balance;
-        paid.prepaid = prepaid;
-        paid.fee = fee;
-        if (listed.first <= n) payments.push_back(paid);
+        row.balance = balance();
+        row.prepaid = prepaid;
+        row.fee = fee;
+        if (listed.first <= n) payments.push_back(row);
         // A prepayment that clears the balance, or a shortened loan's last payment, ends the loan.
-        if ((ends || prepaid > 0.0) && balance <= 0.0 && !events.empty()) break;
-        previous = current;
+        if ((paid[0].ends || paid[1].ends || prepaid > 0.0) && balance() <= 0.0 && !events.empty()) break;
         current = calendar::dateFromEraYear(calendar::kWestern, current.Year(), current.Month() + 1, record.payDay);
     }
     return payments;

@@ -11,9 +11,10 @@
 
 namespace engine {
 
-// The flat payment that repays the balance in that many monthly payments at the annual rate,
-// to the yen by the rule.
-double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule = Rounding::Nearest);
+// The flat payment that repays the balance in that many payments at the annual rate, to the yen
+// by the rule: monthly payments, or as many a year as given (2 for a bonus part's).
+double annuityPayment(double balance, double annualRate, std::int64_t payments, Rounding rule = Rounding::Nearest,
+                      int periodsPerYear = 12);
 
 struct Payment {
     std::int64_t number; // from 1
@@ -24,6 +25,7 @@ struct Payment {
     double balance;       // after this payment and its prepayment
     double prepaid = 0.0; // extra principal paid with this payment
     double fee = 0.0;     // costs paid with this payment
+    double bonus = 0.0;   // the bonus part's payment, part of the amount
     friend bool operator==(const Payment&, const Payment&) = default;
 };
 

@@ -82,6 +82,7 @@ inline constexpr Constant kHideBelowTip =
 
 // The column of extra principal that a plan's rows carry.
 inline constexpr Constant kPrepaidHeading = KESTRUNE_TEXT("MainWindow", "kPrepaidHeading", "Prepaid");
+inline constexpr Constant kBonusHeading = KESTRUNE_TEXT("MainWindow", "kBonusHeading", "Bonus");
 
 // Names that assistive technology reads for controls whose label does not name them.
 inline constexpr Constant kAccBorrowYear = KESTRUNE_TEXT("MainWindow", "kAccBorrowYear", "Borrowing year");
@@ -190,7 +191,7 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kNewNextTip,     kShowPayoffButton,
                                           kShowPayoffTip,  kHideBelowButton,
                                           kHideBelowTip,   kHelpText,
-                                          kPrepaidHeading, kAccBorrowYear,
+                                          kPrepaidHeading, kBonusHeading, kAccBorrowYear,
                                           kAccBorrowMonth, kAccBorrowDay,
                                           kAccPayDay,      kAccCalendar,
                                           kAccDelay,       kAccMethod,

@@ -41,17 +41,24 @@ std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era,
     return rows;
 }
 
-Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay) {
-    const Row row = rowText(payment, era, payDay);
-    Cells cells(row.begin(), row.end());
-    cells.insert(cells.begin() + kBalance, Format(payment.prepaid, kAmountMask));
+Cells planHeadings(const Cells& headings, const std::string& bonus, const std::string& prepaid, PlanColumns columns) {
+    Cells cells = headings;
+    if (columns.prepaid) cells.insert(cells.begin() + kBalance, prepaid);
+    if (columns.bonus) cells.insert(cells.begin() + kBalance, bonus);
     return cells;
 }
 
-std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay) {
+Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay, PlanColumns columns) {
+    const Row row = rowText(payment, era, payDay);
+    return planHeadings(Cells(row.begin(), row.end()), Format(payment.bonus, kAmountMask),
+                        Format(payment.prepaid, kAmountMask), columns);
+}
+
+std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
+                                PlanColumns columns) {
     std::vector<Cells> rows;
     rows.reserve(payments.size());
-    for (const engine::Payment& payment : payments) rows.push_back(planRowText(payment, era, payDay));
+    for (const engine::Payment& payment : payments) rows.push_back(planRowText(payment, era, payDay, columns));
     return rows;
 }
 

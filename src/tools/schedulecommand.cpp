@@ -52,8 +52,12 @@ them into the form. No field corrections are applied. Each option is given as
                      monthly, as lenders count: rate / 12 a month whatever its days, and the
                      first period's whole months at rate / 12 and its days left at rate / 365
   --rounding RULE    nearest (the default) or down: every amount computed is cut to the yen
+  --bonus AMOUNT[:M1,M2]  AMOUNT of the principal is a bonus part, repaid by payments made with
+                     the regular payments of months M1 and M2 (6 and 12 by default): its flat
+                     payment at rate / 2 a half year, or equal principal; a Bonus column shows them
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
-                     "fee 61 330000", and terms, as "interest monthly", "rounding down";
+                     "fee 61 330000", and terms, as "interest monthly", "rounding down",
+                     "bonus 9000000 6 12";
                      blank lines and lines from # are skipped
   --totals           after the table (in tsv and csv after a blank line), the totals and, with
                      events, the savings against the same loan without them
@@ -95,10 +99,10 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
     return n;
 }
 
-table::Cells headerRow(bool withPrepaid) {
-    table::Cells header = runtime::Split(strings::kHeader.defaultText, "\t");
-    if (withPrepaid) header.insert(header.begin() + table::kBalance, std::string(strings::kPrepaidHeading.defaultText));
-    return header;
+table::Cells headerRow(table::PlanColumns columns) {
+    return table::planHeadings(runtime::Split(strings::kHeader.defaultText, "\t"),
+                               std::string(strings::kBonusHeading.defaultText),
+                               std::string(strings::kPrepaidHeading.defaultText), columns);
 }
 
 std::string jsonString(std::string_view text) {
@@ -172,11 +176,16 @@ totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSav
     return lines;
 }
 
-// "N:AMOUNT[:shorten|reduce][:every=M]" and the like as an event line ("prepay N AMOUNT ...").
+// "N:AMOUNT[:shorten|reduce][:every=M]" and the like as an event line ("prepay N AMOUNT ..."),
+// and "AMOUNT:M1,M2" as a bonus line ("bonus AMOUNT M1 M2").
 std::string eventLineOf(const std::string& kind, const std::string& value) {
     std::string line = kind;
-    for (const std::string& part : runtime::Split(value, ":"))
-        line += " " + (part.starts_with("every=") ? "every " + part.substr(6) : part);
+    const std::vector<std::string> parts = runtime::Split(value, ":");
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        std::string part = parts[i].starts_with("every=") ? "every " + parts[i].substr(6) : parts[i];
+        if (kind == "bonus" && i > 0) std::replace(part.begin(), part.end(), ',', ' ');
+        line += " " + part;
+    }
     return line;
 }
 
@@ -219,7 +228,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
                                                         {"--rate-change", "rate"},
                                                         {"--fee", "fee"},
                                                         {"--interest", "interest"},
-                                                        {"--rounding", "rounding"}};
+                                                        {"--rounding", "rounding"},
+                                                        {"--bonus", "bonus"}};
 
     const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
                                                     {"--times", &form.times},         {"--month", &form.date.month},
@@ -294,6 +304,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events, terms) : engine::PlanOutcome{};
     const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed, {}, terms);
     const engine::Refusal refusal = plan ? outcome.refusal : calc.refusal;
+    if (refusal == engine::Refusal::BadTerms) return usageError(err, "bad term: " + calc.termsProblem);
     if (refusal == engine::Refusal::ZeroInput) {
         err << "kestrune-schedule: principal, rate and count must be non-zero\n";
         return 1;
@@ -310,15 +321,10 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     for (const engine::Payment& p : calc.payments)
         if (p.number >= listed.first && (listed.last < 0 || p.number <= listed.last)) listedPayments.push_back(p);
     const bool withPrepaid = !events.empty();
-    std::vector<table::Cells> rows;
-    if (withPrepaid) {
-        rows = table::planRowTexts(listedPayments, era, payDay);
-    } else {
-        for (const table::Row& row : table::rowTexts(listedPayments, era, payDay))
-            rows.emplace_back(row.begin(), row.end());
-    }
+    const table::PlanColumns columns{terms.bonus.has_value(), withPrepaid};
+    std::vector<table::Cells> rows = table::planRowTexts(listedPayments, era, payDay, columns);
     const table::Cells header =
-        byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(withPrepaid);
+        byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
     if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
 
     const engine::PlanTotals& totals = outcome.totals;
