@@ -63,8 +63,8 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
         return calc;
     }
     calc.record = settleLoan(calc.terms, lender);
-    calc.termsProblem = termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(),
-                                     calc.record.paymentCount);
+    calc.termsProblem =
+        termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(), calc.record.paymentCount);
     if (!calc.termsProblem.empty()) {
         calc.refusal = Refusal::BadTerms;
         return calc;
@@ -73,7 +73,8 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
     const double bonusAmount = calc.record.flatPayment ? calc.record.bonusPayment : calc.record.bonusPrincipal;
     // The principal as typed, not as a double rounds it: 2^53 + 1 is beyond.
     const long double typed = runtime::wideVal(runtime::withoutCommas(form.principal));
-    const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount) && isExactAmount(bonusAmount);
+    const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount) &&
+                       isExactAmount(bonusAmount);
     auto payments = exact ? walkSchedule(calc.record, listed, events) : std::nullopt;
     if (!payments) {
         calc.refusal = Refusal::OutOfRange;

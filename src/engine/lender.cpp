@@ -151,8 +151,8 @@ std::vector<std::string> termLines(const LenderTerms& terms) {
     if (terms.interest == InterestRule::Monthly) lines.emplace_back("interest monthly");
     if (terms.rounding == Rounding::Down) lines.emplace_back("rounding down");
     if (terms.bonus)
-        lines.push_back("bonus " + runtime::Str(terms.bonus->amount) + " " + runtime::Str(terms.bonus->months[0]) + " " +
-                        runtime::Str(terms.bonus->months[1]));
+        lines.push_back("bonus " + runtime::Str(terms.bonus->amount) + " " + runtime::Str(terms.bonus->months[0]) +
+                        " " + runtime::Str(terms.bonus->months[1]));
     return lines;
 }
 

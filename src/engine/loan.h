@@ -63,9 +63,9 @@ struct LoanRecord {
     double bonusAmount = 0.0;    // of the principal, the bonus part: repaid by payments of its own
     double bonusPayment = 0.0;   // flat payment: principal and interest of each bonus payment
     double bonusPrincipal = 0.0; // equal principal: the principal of each bonus payment
-    double ratePercent = 0.0; // as typed: the decimal a lender computes with
-    double annualRate = 0.0;  // a fraction
-    double dailyRate = 0.0;   // interest per day, as a fraction of the balance
+    double ratePercent = 0.0;    // as typed: the decimal a lender computes with
+    double annualRate = 0.0;     // a fraction
+    double dailyRate = 0.0;      // interest per day, as a fraction of the balance
     std::int64_t paymentCount = 0;
     std::int64_t payDay = 0; // of each month, as read: beyond a month's length, its last day
     calendar::LoanDates dates;

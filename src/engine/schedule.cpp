@@ -159,8 +159,7 @@ struct Rules {
     void reset(Part& part, std::int64_t left) const {
         if (left <= 0) return;
         if (record.flatPayment)
-            part.payment =
-                annuityPayment(part.balance, annualRate, left, record.lender.rounding, part.periodsPerYear);
+            part.payment = annuityPayment(part.balance, annualRate, left, record.lender.rounding, part.periodsPerYear);
         else
             part.principal = roundBy(part.balance / static_cast<double>(left), record.lender.rounding);
     }
@@ -193,7 +192,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
         payments.reserve(static_cast<std::size_t>(limit - std::max<std::int64_t>(listed.first, 1) + 1));
 
     Rules rules{record, record.annualRate, record.ratePercent, record.dailyRate};
-    Part monthly{record.principal - record.bonusAmount, record.fixedPayment, record.fixedPrincipal, 12, record.dates.borrowed};
+    Part monthly{record.principal - record.bonusAmount, record.fixedPayment, record.fixedPrincipal, 12,
+                 record.dates.borrowed};
     Part bonus{record.bonusAmount, record.bonusPayment, record.bonusPrincipal, 2, record.dates.borrowed};
     bonus.ended = !record.lender.bonus;
     const std::int64_t firstMonth = record.dates.firstPayment.Month();
@@ -212,8 +212,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             rules.annualRate = rules.ratePercent / 100.0;
             rules.dailyRate = rules.annualRate / kDaysInYear;
             if (record.flatPayment) {
-                monthly.payment = annuityPayment(monthly.balance, rules.annualRate, record.paymentCount - i,
-                                                 record.lender.rounding);
+                monthly.payment =
+                    annuityPayment(monthly.balance, rules.annualRate, record.paymentCount - i, record.lender.rounding);
                 if (!bonus.ended) rules.reset(bonus, bonusPaymentsFrom(n));
             }
         }

@@ -224,12 +224,9 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     bool showTotals = false, byYear = false;
     std::vector<std::string> eventLines;
     // Events and terms given as options become the lines of a plan's text.
-    const std::map<std::string, std::string> eventKinds{{"--prepay", "prepay"},
-                                                        {"--rate-change", "rate"},
-                                                        {"--fee", "fee"},
-                                                        {"--interest", "interest"},
-                                                        {"--rounding", "rounding"},
-                                                        {"--bonus", "bonus"}};
+    const std::map<std::string, std::string> eventKinds{{"--prepay", "prepay"},     {"--rate-change", "rate"},
+                                                        {"--fee", "fee"},           {"--interest", "interest"},
+                                                        {"--rounding", "rounding"}, {"--bonus", "bonus"}};
 
     const std::map<std::string, std::string*> texts{{"--principal", &form.principal}, {"--rate", &form.rate},
                                                     {"--times", &form.times},         {"--month", &form.date.month},
@@ -323,8 +320,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const bool withPrepaid = !events.empty();
     const table::PlanColumns columns{terms.bonus.has_value(), withPrepaid};
     std::vector<table::Cells> rows = table::planRowTexts(listedPayments, era, payDay, columns);
-    const table::Cells header =
-        byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
+    const table::Cells header = byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
     if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
 
     const engine::PlanTotals& totals = outcome.totals;
