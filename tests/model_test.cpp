@@ -19,7 +19,8 @@ namespace engine {
 inline void PrintTo(const Payment& p, std::ostream* os) {
     *os << "#" << p.number << " " << p.date.Year() << "-" << p.date.Month() << "-" << p.date.Day() << " amount "
         << p.amount << " principal " << p.principal << " interest " << p.interest << " balance " << p.balance
-        << " prepaid " << p.prepaid << " fee " << p.fee << " bonus " << p.bonus;
+        << " prepaid " << p.prepaid << " fee " << p.fee << " bonus " << p.bonus << " unpaid " << p.unpaid
+        << " unpaid paid " << p.unpaidPaid;
 }
 } // namespace engine
 
@@ -67,6 +68,12 @@ struct Part {
     double perYear = 12;
     calendar::Date from; // the date its interest runs from
     bool paidBefore = false, shortened = false, ended = false;
+    // Under reviews: its payments so far, the rate its payment was set at, whether the cap held it,
+    // the interest carried unpaid.
+    std::int64_t made = 0;
+    double setAt = 0;
+    bool capped = false;
+    double unpaid = 0;
 };
 
 // The plan's payments, or none where an amount is beyond 2^53 or the bonus part doesn't fit.
@@ -89,6 +96,7 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
     };
     const double bonusAmount = terms.bonus ? terms.bonus->amount : 0;
     if (terms.bonus && (bonusAmount > loan.principal / 2 || bonusLeft(1) == 0)) return std::nullopt;
+    if (terms.review && !flat) return std::nullopt;
     double annual = loan.annualRate, percent = loan.ratePercent;
     const auto setAnew = [&](Part& part, std::int64_t left) {
         if (left <= 0) return;
@@ -96,9 +104,12 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             part.payment = annuity(part.balance, annual, left, down, part.perYear);
         else
             part.principalEach = toYen(part.balance / static_cast<double>(left), down);
+        part.setAt = percent;
+        part.capped = false;
     };
     Part monthly{loan.principal - bonusAmount, 0, 0, 12, loan.dates.borrowed};
     Part bonus{bonusAmount, 0, 0, 2, loan.dates.borrowed};
+    monthly.setAt = bonus.setAt = percent;
     bonus.ended = !terms.bonus;
     setAnew(monthly, count);
     if (terms.bonus) setAnew(bonus, bonusLeft(1));
@@ -106,9 +117,19 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
          {loan.principal, monthly.payment, monthly.principalEach, bonus.payment, bonus.principalEach})
         if (beyond(figure)) return std::nullopt;
     // What a part pays with payment n: its interest, and its principal.
-    const auto pay = [&](Part& part, std::int64_t n, bool lastOfItsOwn, Payment& p) {
-        const double days = static_cast<double>((dates[n].days() - part.from.days()).count());
-        double interest = toYen(part.balance * (annual / 365.2422) * days, down);
+    const auto pay = [&](Part& part, std::int64_t n, std::int64_t left, Payment& p) {
+        // Reviews: after every 60 monthly or 10 bonus payments, where the rate moved or the cap held.
+        const std::int64_t every = part.perYear == 12 ? 60 : 10;
+        if (terms.review && part.made > 0 && part.made % every == 0 && (percent != part.setAt || part.capped)) {
+            const double anew = annuity(part.balance, annual, left, down, part.perYear);
+            const double cap = toYen(1.25 * part.payment, down);
+            part.capped = anew > cap;
+            part.payment = std::min(anew, cap);
+            part.setAt = percent;
+        }
+        part.made += 1;
+        const double actualDays = static_cast<double>((dates[n].days() - part.from.days()).count());
+        double interest = toYen(part.balance * (annual / 365.2422) * actualDays, down);
         if (terms.interest == engine::InterestRule::Monthly && part.paidBefore) {
             interest = interestByMonths(part.balance, percent, part.perYear == 12 ? 1 : 6, 0, down);
         } else if (terms.interest == engine::InterestRule::Monthly) {
@@ -116,13 +137,24 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             const calendar::Date b = part.from;
             std::int64_t months = 0;
             while (calendar::Date(b.Year(), b.Month() + months + 1, b.Day()).days() <= dates[n].days()) ++months;
-            const std::int64_t left =
+            const std::int64_t days =
                 (dates[n].days() - calendar::Date(b.Year(), b.Month() + months, b.Day()).days()).count();
-            interest = interestByMonths(part.balance, percent, months, left, down);
+            interest = interestByMonths(part.balance, percent, months, days, down);
         }
         const double regular = flat ? part.payment - interest : part.principalEach;
-        const bool last = lastOfItsOwn || (part.shortened && regular >= part.balance);
-        const double principal = last ? part.balance : regular;
+        const bool last = left == 1 || (part.shortened && regular >= part.balance);
+        double principal = last ? part.balance : regular;
+        if (!last && terms.review && regular < 0) {
+            // Interest above the payment: the payment is all interest, the rest carried.
+            part.unpaid += interest - part.payment;
+            interest = part.payment;
+            principal = 0;
+        }
+        if (last) {
+            interest += part.unpaid;
+            p.unpaidPaid += part.unpaid;
+            part.unpaid = 0;
+        }
         const double amount = last || !flat ? principal + interest : part.payment;
         part.balance -= principal;
         part.from = dates[n];
@@ -140,15 +172,15 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             if (e.kind != EventKind::RateChange || !due(e, n)) continue;
             percent = e.value;
             annual = e.value / 100.0;
-            if (flat) monthly.payment = annuity(monthly.balance, annual, count - n + 1, down, 12);
-            if (flat && !bonus.ended) setAnew(bonus, bonusLeft(n));
+            if (flat && !terms.review) monthly.payment = annuity(monthly.balance, annual, count - n + 1, down, 12);
+            if (flat && !terms.review && !bonus.ended) setAnew(bonus, bonusLeft(n));
         }
         Payment p{n, dates[n], 0, 0, 0, 0};
         bool last = false;
-        if (!monthly.ended) last = pay(monthly, n, n == count, p);
+        if (!monthly.ended) last = pay(monthly, n, count - n + 1, p);
         if (!bonus.ended && isBonus(n)) {
             const double before = p.amount;
-            last = pay(bonus, n, bonusLeft(n + 1) == 0, p) || last;
+            last = pay(bonus, n, bonusLeft(n), p) || last;
             p.bonus = p.amount - before;
         }
         double reduce = 0, shorten = 0;
@@ -190,10 +222,18 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             prepay(shorten);
             monthly.shortened = bonus.shortened = true;
         }
-        for (Part* part : {&monthly, &bonus})
-            if (p.prepaid > 0 && part->balance <= 0) part->ended = true;
+        // A part a prepayment clears is repaid, and with it the interest it carried unpaid.
+        for (Part* part : {&monthly, &bonus}) {
+            if (p.prepaid <= 0 || part->balance > 0) continue;
+            part->ended = true;
+            p.interest += part->unpaid;
+            p.amount += part->unpaid;
+            p.unpaidPaid += part->unpaid;
+            part->unpaid = 0;
+        }
         p.balance = monthly.balance + bonus.balance;
-        for (const double figure : {p.amount, p.principal, p.interest, p.balance, p.prepaid, p.fee, p.bonus})
+        p.unpaid = monthly.unpaid + bonus.unpaid;
+        for (const double figure : {p.amount, p.principal, p.interest, p.balance, p.prepaid, p.fee, p.bonus, p.unpaid})
             if (beyond(figure)) return std::nullopt;
         paid.push_back(p);
         if ((last || p.prepaid > 0) && p.balance <= 0 && !events.empty()) break;
@@ -217,6 +257,7 @@ engine::PlanTotals totalsOf(const std::vector<Payment>& payments) {
         t.interest += p.interest;
         t.prepaid += p.prepaid;
         t.fees += p.fee;
+        t.unpaidPaid += p.unpaidPaid;
         t.payoff = p.date;
     }
     t.payments = static_cast<std::int64_t>(payments.size());
@@ -291,6 +332,8 @@ RandomPlan randomPlan(std::mt19937_64& random) {
     r.form.flatPayment = pick(0, 1) == 1;
     r.terms = {pick(0, 1) ? engine::InterestRule::Monthly : engine::InterestRule::Daily,
                pick(0, 1) ? engine::Rounding::Down : engine::Rounding::Nearest, std::nullopt};
+    // Reviews for most flat loans, and now and then for one of equal principal, to be refused.
+    r.terms.review = pick(0, 2) > 0 ? r.form.flatPayment : pick(0, 30) == 0;
     // Now and then a bonus part, up to half the principal (or above, to be refused).
     if (pick(0, 2) == 0) {
         const std::int64_t principal = std::stoll(r.form.principal), first = pick(1, 12);
@@ -351,7 +394,7 @@ std::string describe(const RandomPlan& r) {
 TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
     const std::uint64_t plans = setting("KESTRUNE_MODEL_PLANS", 3000), seed = setting("KESTRUNE_MODEL_SEED", 1123);
     std::mt19937_64 random(seed);
-    std::size_t refused = 0, cleared = 0, brokeEven = 0;
+    std::size_t refused = 0, cleared = 0, brokeEven = 0, unpaid = 0, bonus = 0;
     for (std::uint64_t i = 0; i < plans; ++i) {
         const RandomPlan r = randomPlan(random);
         const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events, r.terms);
@@ -370,13 +413,19 @@ TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
         ASSERT_TRUE(engine.years == m.years) << where;
         cleared += m.plan.size() < m.base.size();
         brokeEven += m.savings.breakEven.has_value();
+        unpaid += m.totals.unpaidPaid > 0;
+        bonus += r.terms.bonus.has_value();
     }
-    // The plans reach the rules that matter: refusals, loans ended early, fees earned back.
+    // The plans reach the rules that matter: refusals, loans ended early, fees earned back,
+    // interest carried unpaid under reviews, bonus parts.
     EXPECT_GT(refused, 0u);
     EXPECT_GT(cleared, plans / 10);
     EXPECT_GT(brokeEven, plans / 50);
+    EXPECT_GT(unpaid, plans / 100);
+    EXPECT_GT(bonus, plans / 10);
     std::cout << "model: " << plans << " plans from seed " << seed << ": " << refused << " refused, " << cleared
-              << " ended early, " << brokeEven << " broke even\n";
+              << " ended early, " << brokeEven << " broke even, " << unpaid << " carried interest unpaid, " << bonus
+              << " with a bonus part\n";
 }
 
 } // namespace

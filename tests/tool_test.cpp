@@ -97,6 +97,7 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--bonus 50,000,001", 2,
          "kestrune-schedule: bad term: the bonus part 50,000,001 is more than half the principal\n"},
         {"--times 2 --month 1 --bonus 1", 2, "kestrune-schedule: bad term: no payment falls in month 6 or 12\n"},
+        {"--review", 2, "kestrune-schedule: bad term: the five-year and 125 % rules are for a flat payment only\n"},
         {"--prepay 1:1000:every=9223372036854775807", 2,
          "kestrune-schedule: bad event: every takes a count of payments from 1 to the count: prepay 1 1000 every "
          "9223372036854775807\n"},
@@ -209,6 +210,36 @@ TEST(ScheduleTool, ALoanWithABonusPart) {
          "004\t20.07.08\t228,003\t225,000\t3,003\t151,878\t750,000\n"},
     };
     for (const auto& [options, printed] : cases) EXPECT_EQ(run(loan + options).out, printed) << options;
+}
+
+// 12,000,000 flat in 180 payments from 2020-04-08, interest by months under the five-year and
+// 125 % rules. At 1 % the payment is 71,819; at 12 % from the first payment a month's interest is
+// 120,000: no principal is paid and 48,181 a month is carried unpaid. Review 61 would set 172,165
+// and is capped at 1.25 x 71,819 = 89,773.75; review 121, after a cap, again: 1.25 x 89,774 =
+// 112,217.5. The last payment: 12,000,000 + 120,000 + 60 x 48,181 + 60 x 30,226 + 59 x 7,782.
+// At 3 % (82,870 a payment) falling to 1 % with payment 30, review 61 lowers the payment to that
+// of 8,082,900 over 120 payments at 1 %: 70,809.54.
+TEST(ScheduleTool, AVariableRateUnderTheFiveYearAnd125Rules) {
+    const std::string loan = "--principal 12,000,000 --times 180 --era western --year 2020 --month 4 --day 8 "
+                             "--method flat --interest monthly --review --format tsv ";
+    const std::pair<std::string, std::string> cases[] = {
+        {"--rate 1 --rate-change 1:12 --first 60 --last 61",
+         "060\t25.04.08\t71,819\t0\t71,819\t0\t2,890,860\t12,000,000\n"
+         "061\t25.05.08\t89,774\t0\t89,774\t0\t2,921,086\t12,000,000\n"},
+        {"--rate 1 --rate-change 1:12 --first 120 --last 121",
+         "120\t30.04.08\t89,774\t0\t89,774\t0\t4,704,420\t12,000,000\n"
+         "121\t30.05.08\t112,218\t0\t112,218\t0\t4,712,202\t12,000,000\n"},
+        {"--rate 1 --rate-change 1:12 --first 180", "180\t35.04.08\t17,283,558\t12,000,000\t5,283,558\t0\t0\t0\n"},
+        {"--rate 1 --rate-change 1:12 --totals --last 0", "\nPayments\t180\nPaid\t33,600,000\nPrincipal\t12,000,"
+                                                          "000\nInterest\t21,600,000\nUnpaid interest paid\t5,163,558\n"
+                                                          "Prepaid\t0\nFees\t0\nPayoff\t2035 / 4 / 8 \nInterest "
+                                                          "saved\t-20,672,509\nPayments saved\t0 (0 years 0 months)\n"
+                                                          "Net saving\t-20,672,509\nBreak-even payment\tno fees\n"},
+        {"--rate 3 --rate-change 30:1 --first 60 --last 61", "060\t25.04.08\t82,870\t76,071\t6,799\t0\t0\t8,082,900\n"
+                                                             "061\t25.05.08\t70,810\t64,074\t6,736\t0\t0\t8,018,826\n"},
+    };
+    const std::string header = "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tUnpaid interest\tBalance\n";
+    for (const auto& [options, printed] : cases) EXPECT_EQ(run(loan + options).out, header + printed) << options;
 }
 
 TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {

@@ -350,6 +350,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <comment>Bonus</comment>
         <translation>ボーナス</translation>
     </message>
+    <message>
+        <source>kUnpaidHeading</source>
+        <comment>Unpaid interest</comment>
+        <translation>未払利息</translation>
+    </message>
 </context>
 <context>
     <name>PlanWindow</name>

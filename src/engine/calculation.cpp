@@ -63,8 +63,8 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
         return calc;
     }
     calc.record = settleLoan(calc.terms, lender);
-    calc.termsProblem =
-        termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(), calc.record.paymentCount);
+    calc.termsProblem = termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(),
+                                     calc.record.paymentCount, calc.record.flatPayment);
     if (!calc.termsProblem.empty()) {
         calc.refusal = Refusal::BadTerms;
         return calc;

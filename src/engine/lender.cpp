@@ -100,7 +100,9 @@ std::int64_t BonusPart::bonusPayments(std::int64_t firstMonth, std::int64_t from
     return count;
 }
 
-std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments) {
+std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
+                         bool flatPayment) {
+    if (terms.review && !flatPayment) return "the five-year and 125 % rules are for a flat payment only";
     if (!terms.bonus) return {};
     if (terms.bonus->amount > principal / 2)
         return "the bonus part " + runtime::Format(terms.bonus->amount, "###,###,###,###,###") +
@@ -115,6 +117,11 @@ TermReading readTerm(std::string_view line, LenderTerms& terms) {
     std::vector<std::string> words;
     std::istringstream in{std::string(line)};
     for (std::string word; in >> word;) words.push_back(word);
+    if (!words.empty() && words[0] == "review") {
+        if (words.size() != 1) return {true, "review takes no value: " + runtime::excerpt(line)};
+        terms.review = true;
+        return {true, ""};
+    }
     if (!words.empty() && words[0] == "bonus") {
         const std::string why = "bonus takes an amount above 0 and two different months from 1 to 12: ";
         BonusPart bonus;
@@ -153,6 +160,7 @@ std::vector<std::string> termLines(const LenderTerms& terms) {
     if (terms.bonus)
         lines.push_back("bonus " + runtime::Str(terms.bonus->amount) + " " + runtime::Str(terms.bonus->months[0]) +
                         " " + runtime::Str(terms.bonus->months[1]));
+    if (terms.review) lines.emplace_back("review");
     return lines;
 }
 

@@ -34,6 +34,10 @@ struct LenderTerms {
     InterestRule interest = InterestRule::Daily;
     Rounding rounding = Rounding::Nearest;
     std::optional<BonusPart> bonus;
+    // The five-year and 125 % rules of a variable rate: a flat payment is set anew only every 60
+    // payments (a bonus part's every 10), at most 1.25 times the one before; interest it doesn't
+    // cover is carried unpaid to the last payment.
+    bool review = false;
     friend bool operator==(const LenderTerms&, const LenderTerms&) = default;
 };
 
@@ -55,11 +59,12 @@ MonthsAndDays monthsAndDays(const calendar::Date& borrowed, const calendar::Date
 double monthlyInterest(double balance, double ratePercent, MonthsAndDays span, Rounding rule);
 
 // Why the terms don't fit the loan (a bonus part above half the principal, or with no payment in
-// its months); empty where they do.
-std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments);
+// its months; reviews of an equal-principal loan); empty where they do.
+std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
+                         bool flatPayment);
 
 // A line of a plan's text that sets a term: "interest daily|monthly", "rounding nearest|down",
-// "bonus AMOUNT [M1 M2]" (months 6 and 12 where none are given).
+// "bonus AMOUNT [M1 M2]" (months 6 and 12 where none are given), "review".
 // None where the line names no term; an error where it names one with a wrong value.
 struct TermReading {
     bool isTerm = false;

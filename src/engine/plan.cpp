@@ -125,6 +125,7 @@ PlanTotals planTotals(const std::vector<Payment>& payments) {
         totals.interest += p.interest;
         totals.prepaid += p.prepaid;
         totals.fees += p.fee;
+        totals.unpaidPaid += p.unpaidPaid;
     }
     totals.payments = static_cast<std::int64_t>(payments.size());
     if (!payments.empty()) totals.payoff = payments.back().date;

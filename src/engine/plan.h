@@ -53,7 +53,8 @@ struct PlanTotals {
     double interest = 0.0;
     double prepaid = 0.0;
     double fees = 0.0;
-    calendar::Date payoff; // the date of the last payment
+    double unpaidPaid = 0.0; // of the interest, what was carried unpaid under reviews
+    calendar::Date payoff;   // the date of the last payment
     friend bool operator==(const PlanTotals&, const PlanTotals&) = default;
 };
 PlanTotals planTotals(const std::vector<Payment>& payments);

@@ -7,6 +7,7 @@
 #include <map>
 #include <queue>
 #include <tuple>
+#include <utility>
 
 namespace engine {
 namespace {
@@ -111,10 +112,20 @@ struct Part {
     bool paidOnce = false;
     bool shortened = false; // a prepayment shortens it: it ends when its principal is paid
     bool ended = false;
+    // Under reviews: every how many of its payments the payment may be set anew, how many it has
+    // made, the rate it was last set at and whether the 1.25 cap held it; the interest carried.
+    std::int64_t reviewEvery = 60;
+    std::int64_t made = 0;
+    double setAtPercent = 0.0;
+    bool capped = false;
+    double unpaid = 0.0;
+
+    // Its carried interest, paid now: it adds to the payment's interest.
+    double payUnpaid() { return std::exchange(unpaid, 0.0); }
 };
 
 struct PartPaid {
-    double amount = 0.0, principal = 0.0, interest = 0.0;
+    double amount = 0.0, principal = 0.0, interest = 0.0, unpaidPaid = 0.0;
     bool ends = false;
 };
 
@@ -135,15 +146,33 @@ struct Rules {
         return roundBy((part.balance * dailyRate) * days, rounding);
     }
 
-    // Pays the part's payment due on the date; `last` where it is the last of its payments.
-    PartPaid pay(Part& part, const calendar::Date& date, bool last) const {
+    // Pays the part's payment due on the date, with `left` of its payments left, this one included.
+    PartPaid pay(Part& part, const calendar::Date& date, std::int64_t left) const {
+        const bool review = record.lender.review;
+        if (review && part.made > 0 && part.made % part.reviewEvery == 0 &&
+            (ratePercent != part.setAtPercent || part.capped)) {
+            // A review: the payment for what is left at the rate in force, at most 1.25 times the last.
+            const Rounding rounding = record.lender.rounding;
+            const double anew = annuityPayment(part.balance, annualRate, left, rounding, part.periodsPerYear);
+            const double cap = roundBy(1.25 * part.payment, rounding);
+            part.capped = anew > cap;
+            part.payment = part.capped ? cap : anew;
+            part.setAtPercent = ratePercent;
+        }
+        ++part.made;
         PartPaid paid;
         paid.interest = interest(part, date);
         const double regularPrincipal = record.flatPayment ? part.payment - paid.interest : part.principal;
-        if (last || (part.shortened && regularPrincipal >= part.balance)) {
-            // The last payment takes up the difference.
+        if (left <= 1 || (part.shortened && regularPrincipal >= part.balance)) {
+            // The last payment takes up the difference, and any interest carried unpaid.
             paid.principal = part.balance;
+            if (part.unpaid != 0.0) paid.interest += paid.unpaidPaid = part.payUnpaid();
             paid.ends = part.ended = true;
+        } else if (review && regularPrincipal < 0.0) {
+            // The payment doesn't cover the interest: all of it is interest, the rest is carried.
+            part.unpaid += paid.interest - part.payment;
+            paid.interest = part.payment;
+            paid.principal = 0.0;
         } else {
             paid.principal = regularPrincipal;
         }
@@ -162,6 +191,8 @@ struct Rules {
             part.payment = annuityPayment(part.balance, annualRate, left, record.lender.rounding, part.periodsPerYear);
         else
             part.principal = roundBy(part.balance / static_cast<double>(left), record.lender.rounding);
+        part.setAtPercent = ratePercent;
+        part.capped = false;
     }
 };
 
@@ -196,6 +227,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
                  record.dates.borrowed};
     Part bonus{record.bonusAmount, record.bonusPayment, record.bonusPrincipal, 2, record.dates.borrowed};
     bonus.ended = !record.lender.bonus;
+    bonus.reviewEvery = 10;
+    monthly.setAtPercent = bonus.setAtPercent = record.ratePercent;
     const std::int64_t firstMonth = record.dates.firstPayment.Month();
     const auto bonusPaymentsFrom = [&](std::int64_t from) {
         return record.lender.bonus ? record.lender.bonus->bonusPayments(firstMonth, from, record.paymentCount) : 0;
@@ -211,15 +244,15 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             rules.ratePercent = *due.rate;
             rules.annualRate = rules.ratePercent / 100.0;
             rules.dailyRate = rules.annualRate / kDaysInYear;
-            if (record.flatPayment) {
+            if (record.flatPayment && !record.lender.review) {
                 monthly.payment =
                     annuityPayment(monthly.balance, rules.annualRate, record.paymentCount - i, record.lender.rounding);
                 if (!bonus.ended) rules.reset(bonus, bonusPaymentsFrom(n));
             }
         }
         PartPaid paid[2];
-        if (!monthly.ended) paid[0] = rules.pay(monthly, current, i == record.paymentCount - 1);
-        if (bonusDue) paid[1] = rules.pay(bonus, current, bonusPaymentsFrom(n + 1) == 0);
+        if (!monthly.ended) paid[0] = rules.pay(monthly, current, record.paymentCount - i);
+        if (bonusDue) paid[1] = rules.pay(bonus, current, bonusPaymentsFrom(n));
         Payment row{n,
                     current,
                     paid[0].amount + paid[1].amount,
@@ -227,6 +260,7 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
                     paid[0].interest + paid[1].interest,
                     0.0};
         row.bonus = paid[1].amount;
+        row.unpaidPaid = paid[0].unpaidPaid + paid[1].unpaidPaid;
 
         // Fees and prepayments come after the regular payment. Prepayments that lower the payment
         // act first and set it from what they leave; those that shorten the loan follow.
@@ -250,11 +284,20 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             prepay(due.shorten);
             monthly.shortened = bonus.shortened = true;
         }
-        // A part that a prepayment clears is repaid.
-        for (Part* part : {&monthly, &bonus})
-            if (prepaid > 0.0 && part->balance <= 0.0) part->ended = true;
+        // A part that a prepayment clears is repaid, with its interest carried unpaid.
+        for (Part* part : {&monthly, &bonus}) {
+            if (prepaid <= 0.0 || part->balance > 0.0) continue;
+            part->ended = true;
+            if (part->unpaid == 0.0) continue;
+            const double carried = part->payUnpaid();
+            row.interest += carried;
+            row.amount += carried;
+            row.unpaidPaid += carried;
+        }
+        row.unpaid = monthly.unpaid + bonus.unpaid;
         // What the row shows; a payment carried to the next row is checked there.
-        for (const double figure : {row.amount, row.principal, row.interest, balance(), prepaid, fee, row.bonus})
+        for (const double figure :
+             {row.amount, row.principal, row.interest, balance(), prepaid, fee, row.bonus, row.unpaid})
             if (!isExactAmount(figure)) return std::nullopt;
         row.balance = balance();
         row.prepaid = prepaid;

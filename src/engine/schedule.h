@@ -22,10 +22,12 @@ struct Payment {
     double amount; // the regular payment: principal + interest
     double principal;
     double interest;
-    double balance;       // after this payment and its prepayment
-    double prepaid = 0.0; // extra principal paid with this payment
-    double fee = 0.0;     // costs paid with this payment
-    double bonus = 0.0;   // the bonus part's payment, part of the amount
+    double balance;          // after this payment and its prepayment
+    double prepaid = 0.0;    // extra principal paid with this payment
+    double fee = 0.0;        // costs paid with this payment
+    double bonus = 0.0;      // the bonus part's payment, part of the amount
+    double unpaid = 0.0;     // interest the payments have not covered, carried after this payment
+    double unpaidPaid = 0.0; // of the interest, carried unpaid interest paid with this payment
     friend bool operator==(const Payment&, const Payment&) = default;
 };
 

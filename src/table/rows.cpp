@@ -41,17 +41,20 @@ std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era,
     return rows;
 }
 
-Cells planHeadings(const Cells& headings, const std::string& bonus, const std::string& prepaid, PlanColumns columns) {
+Cells planHeadings(const Cells& headings, const PlanHeadings& added, PlanColumns columns) {
     Cells cells = headings;
-    if (columns.prepaid) cells.insert(cells.begin() + kBalance, prepaid);
-    if (columns.bonus) cells.insert(cells.begin() + kBalance, bonus);
+    if (columns.unpaid) cells.insert(cells.begin() + kBalance, added.unpaid);
+    if (columns.prepaid) cells.insert(cells.begin() + kBalance, added.prepaid);
+    if (columns.bonus) cells.insert(cells.begin() + kBalance, added.bonus);
     return cells;
 }
 
 Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay, PlanColumns columns) {
     const Row row = rowText(payment, era, payDay);
-    return planHeadings(Cells(row.begin(), row.end()), Format(payment.bonus, kAmountMask),
-                        Format(payment.prepaid, kAmountMask), columns);
+    return planHeadings(
+        Cells(row.begin(), row.end()),
+        {Format(payment.bonus, kAmountMask), Format(payment.prepaid, kAmountMask), Format(payment.unpaid, kAmountMask)},
+        columns);
 }
 
 std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,

@@ -30,16 +30,21 @@ inline constexpr std::string_view kAmountMask = "###,###,###,###";
 std::vector<Row> rowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay);
 Row rowText(const engine::Payment& payment, int era, std::int64_t payDay);
 // The columns a plan's rows add after Interest: the bonus part's payment where the loan has one,
-// then the prepaid amount.
+// the prepaid amount, and under reviews the interest carried unpaid.
 struct PlanColumns {
     bool bonus = false;
     bool prepaid = true;
+    bool unpaid = false;
+};
+// The headings of those columns.
+struct PlanHeadings {
+    std::string bonus, prepaid, unpaid;
 };
 // The same rows with those columns, and their headings from the table's own and theirs.
 std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
                                 PlanColumns columns = {});
 Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay, PlanColumns columns = {});
-Cells planHeadings(const Cells& headings, const std::string& bonus, const std::string& prepaid, PlanColumns columns);
+Cells planHeadings(const Cells& headings, const PlanHeadings& added, PlanColumns columns);
 
 // One row a calendar year: the Western year, the year as the date column shows its era (with the
 // era's name from `eraNames`), the count of payments and the amounts, the balance at its end.

@@ -55,9 +55,13 @@ them into the form. No field corrections are applied. Each option is given as
   --bonus AMOUNT[:M1,M2]  AMOUNT of the principal is a bonus part, repaid by payments made with
                      the regular payments of months M1 and M2 (6 and 12 by default): its flat
                      payment at rate / 2 a half year, or equal principal; a Bonus column shows them
+  --review           the five-year and 125 % rules of a variable rate (flat payment only): a
+                     rate change sets the payment anew only at payments 61, 121, ... (a bonus
+                     part's every 10 bonus payments), at most 1.25 times the one before; interest
+                     a payment doesn't cover is carried unpaid and paid with the last payment
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
                      "fee 61 330000", and terms, as "interest monthly", "rounding down",
-                     "bonus 9000000 6 12";
+                     "bonus 9000000 6 12", "review";
                      blank lines and lines from # are skipped
   --totals           after the table (in tsv and csv after a blank line), the totals and, with
                      events, the savings against the same loan without them
@@ -101,8 +105,10 @@ std::optional<std::int64_t> wholeNumber(const std::string& text) {
 
 table::Cells headerRow(table::PlanColumns columns) {
     return table::planHeadings(runtime::Split(strings::kHeader.defaultText, "\t"),
-                               std::string(strings::kBonusHeading.defaultText),
-                               std::string(strings::kPrepaidHeading.defaultText), columns);
+                               {std::string(strings::kBonusHeading.defaultText),
+                                std::string(strings::kPrepaidHeading.defaultText),
+                                std::string(strings::kUnpaidHeading.defaultText)},
+                               columns);
 }
 
 std::string jsonString(std::string_view text) {
@@ -154,7 +160,7 @@ std::string amount(double value) { return runtime::Format(value, table::kAmountM
 
 // The lines of the totals and, for a plan with events, of its savings.
 std::vector<std::pair<std::string, std::string>>
-totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSavings>& savings, int era) {
+totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSavings>& savings, int era, bool review) {
     const auto date = [era](const calendar::Date& d) { return calendar::payoffText(d, era, {}); };
     std::vector<std::pair<std::string, std::string>> lines{{"payments", runtime::Str(totals.payments)},
                                                            {"paid", amount(totals.paid)},
@@ -163,6 +169,7 @@ totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSav
                                                            {"prepaid", amount(totals.prepaid)},
                                                            {"fees", amount(totals.fees)},
                                                            {"payoff", date(totals.payoff)}};
+    if (review) lines.insert(lines.begin() + 4, {"unpaid interest paid", amount(totals.unpaidPaid)});
     if (!savings) return lines;
     const std::int64_t saved = savings->paymentsSaved;
     lines.insert(lines.end(), {{"interest saved", amount(savings->interestSaved)},
@@ -245,6 +252,10 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         // "--option value" or "--option=value".
         const auto equals = args[i].starts_with("--") ? args[i].find('=') : std::string::npos;
         const std::string option = args[i].substr(0, equals);
+        if (option == "--review") {
+            eventLines.emplace_back("review");
+            continue;
+        }
         if (option == "--totals" || option == "--by-year") {
             (option == "--totals" ? showTotals : byYear) = true;
             continue;
@@ -318,7 +329,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     for (const engine::Payment& p : calc.payments)
         if (p.number >= listed.first && (listed.last < 0 || p.number <= listed.last)) listedPayments.push_back(p);
     const bool withPrepaid = !events.empty();
-    const table::PlanColumns columns{terms.bonus.has_value(), withPrepaid};
+    const table::PlanColumns columns{terms.bonus.has_value(), withPrepaid, terms.review};
     std::vector<table::Cells> rows = table::planRowTexts(listedPayments, era, payDay, columns);
     const table::Cells header = byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
     if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
@@ -328,7 +339,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     if (!events.empty()) savings = outcome.savings;
     const std::string payoff = calendar::payoffText(
         withPrepaid && !calc.payments.empty() ? totals.payoff : calc.record.dates.payoff, form.era, {});
-    const auto lines = totalLines(totals, savings, form.era);
+    const auto lines = totalLines(totals, savings, form.era, terms.review);
     // The totals as rows of a name and a value, the name as a heading.
     std::vector<table::Cells> totalRows{{}};
     for (auto [name, value] : lines) {
@@ -348,15 +359,16 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     default:
         out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(header)
             << ", \"rows\": " << jsonArrays(byYear ? std::vector<table::Cells>{} : rows);
-        // The first seven lines are the totals, those after them the savings.
+        // The first seven lines (eight under reviews) are the totals, those after them the savings.
         const auto object = [&lines](std::size_t from, std::size_t to) {
             std::string text = "{";
             for (std::size_t i = from; i < to; ++i)
                 text += (i > from ? ", " : "") + jsonString(lines[i].first) + ": " + jsonString(lines[i].second);
             return text + "}";
         };
-        if (plan) out << ", \"totals\": " << object(0, 7);
-        if (savings) out << ", \"savings\": " << object(7, lines.size());
+        const std::size_t totalCount = terms.review ? 8 : 7;
+        if (plan) out << ", \"totals\": " << object(0, totalCount);
+        if (savings) out << ", \"savings\": " << object(totalCount, lines.size());
         if (const table::Cells set = engine::termLines(terms); !set.empty()) out << ", \"terms\": " << jsonArray(set);
         if (!events.empty()) {
             table::Cells read;
