@@ -399,11 +399,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>返済表	年ごと	グラフ</translation>
     </message>
     <message>
-        <source>kTotalNames</source>
-        <comment>Payments	Total paid	Total interest	Total prepaid	Fees	Pay off	Interest saved	Payments saved	Net saving	Break-even payment</comment>
-        <translation>返済回数	支払総額	利息総額	繰上返済総額	手数料	完済日	軽減利息	短縮回数	正味の軽減額	損益分岐の回</translation>
-    </message>
-    <message>
         <source>kYearsMonths</source>
         <comment>%1 (%2 years %3 months)</comment>
         <translation>%1（%2 年 %3 か月）</translation>
@@ -487,6 +482,56 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kNotEarnedBack</source>
         <comment>not within the loan</comment>
         <translation>完済までに回収できません</translation>
+    </message>
+    <message>
+        <source>kTotalNames</source>
+        <comment>Payments	Total paid	Total interest	Total prepaid	Fees	Pay off	Interest saved	Payments saved	Net saving	Break-even payment	Unpaid interest paid</comment>
+        <translation>返済回数	支払総額	利息総額	繰上返済総額	手数料	完済日	軽減利息	短縮回数	正味の軽減額	損益分岐の回	支払った未払利息</translation>
+    </message>
+    <message>
+        <source>kBadTermLine</source>
+        <comment>line %1 sets a lender term wrongly: %2</comment>
+        <translation>%1 行目の条件の指定が正しくありません: %2</translation>
+    </message>
+    <message>
+        <source>kTermsTitle</source>
+        <comment>Lender terms</comment>
+        <translation>金融機関の条件</translation>
+    </message>
+    <message>
+        <source>kInterestLabel</source>
+        <comment>&amp;Interest:</comment>
+        <translation>利息(&amp;I):</translation>
+    </message>
+    <message>
+        <source>kInterestRules</source>
+        <comment>by days	by months, as lenders count it</comment>
+        <translation>日割り	月割り（金融機関の計算）</translation>
+    </message>
+    <message>
+        <source>kRoundDown</source>
+        <comment>Round amounts &amp;down to the yen</comment>
+        <translation>円未満を切り捨てる(&amp;D)</translation>
+    </message>
+    <message>
+        <source>kBonusPart</source>
+        <comment>&amp;Bonus part:</comment>
+        <translation>ボーナス返済分(&amp;B):</translation>
+    </message>
+    <message>
+        <source>kBonusMonths</source>
+        <comment>Bonus months</comment>
+        <translation>ボーナス月</translation>
+    </message>
+    <message>
+        <source>kReview</source>
+        <comment>&amp;Five-year and 125 % rules</comment>
+        <translation>5年ルール・125%ルール(&amp;F)</translation>
+    </message>
+    <message>
+        <source>kTermErrors</source>
+        <comment>	The bonus part is more than half the principal	No payment falls in the bonus months	The five-year and 125 % rules are for a flat payment only	The bonus part takes an amount above 0 and two different months</comment>
+        <translation>	ボーナス返済分が元金の半分を超えています	ボーナス月に返済がありません	5年ルール・125%ルールは元利均等返済だけに使えます	ボーナス返済分には0より大きい金額と異なる2つの月を指定します</translation>
     </message>
 </context>
 </TS>

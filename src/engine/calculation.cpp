@@ -63,9 +63,9 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
         return calc;
     }
     calc.record = settleLoan(calc.terms, lender);
-    calc.termsProblem = termsProblem(lender, calc.record.principal, calc.record.dates.firstPayment.Month(),
-                                     calc.record.paymentCount, calc.record.flatPayment);
-    if (!calc.termsProblem.empty()) {
+    calc.termsFit = termsFit(lender, calc.record.principal, calc.record.dates.firstPayment.Month(),
+                             calc.record.paymentCount, calc.record.flatPayment);
+    if (calc.termsFit != TermsFit::Fits) {
         calc.refusal = Refusal::BadTerms;
         return calc;
     }

@@ -5,7 +5,6 @@
 #include "engine/loan.h"
 #include "engine/schedule.h"
 
-#include <string>
 #include <vector>
 
 namespace engine {
@@ -25,7 +24,7 @@ struct Calculation {
     LoanTerms terms;
     LoanRecord record;
     std::vector<Payment> payments;
-    std::string termsProblem; // why the terms are refused
+    TermsFit termsFit = TermsFit::Fits; // why the terms are refused
 };
 
 // With events and lender terms, the calculation of a plan; refused as without.

@@ -100,16 +100,25 @@ std::int64_t BonusPart::bonusPayments(std::int64_t firstMonth, std::int64_t from
     return count;
 }
 
-std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
-                         bool flatPayment) {
-    if (terms.review && !flatPayment) return "the five-year and 125 % rules are for a flat payment only";
-    if (!terms.bonus) return {};
-    if (terms.bonus->amount > principal / 2)
+TermsFit termsFit(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
+                  bool flatPayment) {
+    if (terms.review && !flatPayment) return TermsFit::ReviewNeedsFlat;
+    if (terms.bonus && terms.bonus->amount > principal / 2) return TermsFit::BonusAboveHalf;
+    if (terms.bonus && terms.bonus->bonusPayments(firstMonth, 1, payments) == 0) return TermsFit::NoBonusPayment;
+    return TermsFit::Fits;
+}
+
+std::string termsProblem(TermsFit fit, const LenderTerms& terms) {
+    switch (fit) {
+    case TermsFit::Fits: return {};
+    case TermsFit::ReviewNeedsFlat: return "the five-year and 125 % rules are for a flat payment only";
+    case TermsFit::BonusAboveHalf:
         return "the bonus part " + runtime::Format(terms.bonus->amount, "###,###,###,###,###") +
                " is more than half the principal";
-    if (terms.bonus->bonusPayments(firstMonth, 1, payments) == 0)
+    case TermsFit::NoBonusPayment:
         return "no payment falls in month " + runtime::Str(terms.bonus->months[0]) + " or " +
                runtime::Str(terms.bonus->months[1]);
+    }
     return {};
 }
 

@@ -58,10 +58,12 @@ MonthsAndDays monthsAndDays(const calendar::Date& borrowed, const calendar::Date
 // writes (0.7, not the binary double nearest it) and the product is formed in 128-bit integers.
 double monthlyInterest(double balance, double ratePercent, MonthsAndDays span, Rounding rule);
 
-// Why the terms don't fit the loan (a bonus part above half the principal, or with no payment in
-// its months; reviews of an equal-principal loan); empty where they do.
-std::string termsProblem(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
-                         bool flatPayment);
+// Whether the terms fit the loan: a bonus part takes at most half the principal and has payments
+// in its months; reviews are for a flat payment. The reason in English where they don't.
+enum class TermsFit { Fits, BonusAboveHalf, NoBonusPayment, ReviewNeedsFlat };
+TermsFit termsFit(const LenderTerms& terms, double principal, std::int64_t firstMonth, std::int64_t payments,
+                  bool flatPayment);
+std::string termsProblem(TermsFit fit, const LenderTerms& terms);
 
 // A line of a plan's text that sets a term: "interest daily|monthly", "rounding nearest|down",
 // "bonus AMOUNT [M1 M2]" (months 6 and 12 where none are given), "review".

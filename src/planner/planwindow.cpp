@@ -5,7 +5,9 @@
 #include "form/amountfields.h"
 #include "planner/cellsmodel.h"
 #include "planner/savefile.h"
+#include "planner/termsbox.h"
 #include "runtime/numbers.h"
+#include "runtime/text.h"
 #include "shell/app.h"
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
@@ -81,6 +83,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     setObjectName("PlanWindow");
     resize(820, 720);
 
+    Terms = new TermsBox(this);
+    connect(Terms, &TermsBox::changed, this, &PlanWindow::recalculate);
     Events = new QTableWidget(0, 5, this);
     Events->setObjectName("Events");
     Events->setAccessibleName(text(strings::kEventsTitle));
@@ -127,12 +131,12 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     auto* copyScheduleKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this);
     connect(copyScheduleKey, &QShortcut::activated, this, &PlanWindow::copySchedule);
 
-    auto* figures = new QFormLayout;
+    m_figures = new QFormLayout;
     for (const QString& name : strings::fields(strings::kTotalNames, '\t')) {
         auto* value = new QLabel(this);
         value->setAccessibleName(name);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        figures->addRow(name + ":", value);
+        m_figures->addRow(name + ":", value);
         Figures.push_back(value);
     }
 
@@ -163,10 +167,15 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     eventButtons->addWidget(AddButton);
     eventButtons->addWidget(RemoveButton);
     eventButtons->addStretch();
+    auto* eventsLine = new QHBoxLayout;
+    eventsLine->addWidget(Events, 1);
+    eventsLine->addLayout(eventButtons);
+    auto* left = new QVBoxLayout;
+    left->addWidget(Terms);
+    left->addLayout(eventsLine, 1);
     auto* top = new QHBoxLayout;
-    top->addWidget(Events, 3);
-    top->addLayout(eventButtons);
-    top->addLayout(figures, 2);
+    top->addLayout(left, 3);
+    top->addLayout(m_figures, 2);
     auto* bottom = new QHBoxLayout;
     for (QPushButton* b : {CopyButton, CsvButton, PrintButton, PdfButton}) bottom->addWidget(b);
     bottom->addStretch();
@@ -225,7 +234,15 @@ void PlanWindow::recalculate() {
                        .arg(method, qs(form::principalForDisplay(form.principal)), qs(form::plainNumber(form.rate)),
                             qs(runtime::Str(terms.paymentCount))));
     auto events = readEvents(terms.paymentCount);
-    const engine::PlanOutcome outcome = engine::evaluatePlan(form, events);
+    const std::optional<engine::LenderTerms> lender = Terms->terms();
+    engine::PlanOutcome outcome;
+    if (lender) {
+        outcome = engine::evaluatePlan(form, events, *lender);
+        Terms->showFit(outcome.base.termsFit);
+    } else {
+        outcome.refusal = engine::Refusal::BadTerms;
+        Terms->showUnreadableBonus();
+    }
     if (outcome.refusedBy) {
         m_reading = true;
         markRow(m_eventRows[*outcome.refusedBy], strings::fields(strings::kEventErrors, '\t').last());
@@ -235,12 +252,22 @@ void PlanWindow::recalculate() {
     m_payments = outcome.refusal == engine::Refusal::None ? outcome.plan.payments : std::vector<engine::Payment>{};
 
     const int era = terms.dateLine.era;
-    QStringList headings = strings::fields(strings::kHeader, '\t');
-    headings.insert(table::kBalance, text(strings::kPrepaidHeading));
+    m_columns = {lender && lender->bonus, true, lender && lender->review};
+    table::Cells headings;
+    for (const QString& heading : strings::fields(strings::kHeader, '\t')) headings.push_back(heading.toStdString());
+    headings =
+        table::planHeadings(headings,
+                            {text(strings::kBonusHeading).toStdString(), text(strings::kPrepaidHeading).toStdString(),
+                             text(strings::kUnpaidHeading).toStdString()},
+                            m_columns);
     m_era = era;
     m_payDay = terms.dateLine.payDay;
-    m_schedule->setRows(headings, m_payments.size(),
-                        [this](std::size_t row) { return table::planRowText(m_payments[row], m_era, m_payDay); });
+    QStringList shownHeadings;
+    for (const std::string& heading : headings) shownHeadings << qs(heading);
+    m_schedule->setRows(shownHeadings, m_payments.size(), [this](std::size_t row) {
+        return table::planRowText(m_payments[row], m_era, m_payDay, m_columns);
+    });
+    m_figures->setRowVisible(static_cast<int>(Figures.size()) - 1, m_columns.unpaid);
     auto years = std::make_shared<std::vector<table::Cells>>(
         table::yearRowTexts(m_payments, era, m_payDay, shell::MainWindow::payoffWords().eraNames));
     m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
@@ -273,7 +300,8 @@ void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
                               amount(savings.interestSaved),
                               text(strings::kYearsMonths).arg(saved).arg(saved / 12).arg(saved % 12),
                               amount(savings.netSaving),
-                              breakEven};
+                              breakEven,
+                              amount(totals.unpaidPaid)};
     for (std::size_t i = 0; i < Figures.size(); ++i) Figures[i]->setText(values[i]);
 }
 
@@ -355,7 +383,7 @@ bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
     selected.erase(std::unique(selected.begin(), selected.end()), selected.end());
     std::vector<table::Cells> rows;
     for (const int row : selected)
-        rows.push_back(table::planRowText(m_payments[static_cast<std::size_t>(row)], m_era, m_payDay));
+        rows.push_back(table::planRowText(m_payments[static_cast<std::size_t>(row)], m_era, m_payDay, m_columns));
     if (!rows.empty()) QGuiApplication::clipboard()->setText(qs(table::toTsv(rows)));
     return true;
 }
@@ -383,6 +411,8 @@ void PlanWindow::removeEvents() {
 
 void PlanWindow::copyEvents() const {
     QStringList lines;
+    if (const auto terms = Terms->terms())
+        for (const std::string& line : engine::termLines(*terms)) lines << qs(line);
     QList<int> rows;
     for (const QModelIndex& index : Events->selectionModel()->selectedIndexes())
         if (!rows.contains(index.row())) rows.append(index.row());
@@ -410,8 +440,21 @@ void PlanWindow::pasteEvents() {
         warn(this, text(strings::kPasteRefused).arg(why));
         return;
     }
+    // Terms set the controls, events add rows; a term set wrongly refuses the whole text.
+    engine::LenderTerms terms = Terms->terms().value_or(engine::LenderTerms{});
+    std::vector<std::string> eventLines;
+    for (std::size_t i = 0; i < read.lines.size(); ++i) {
+        const engine::TermReading term = engine::readTerm(read.lines[i], terms);
+        if (!term.error.empty()) {
+            warn(this, text(strings::kPasteRefused)
+                           .arg(text(strings::kBadTermLine).arg(i + 1).arg(qs(runtime::excerpt(read.lines[i])))));
+            return;
+        }
+        if (!term.isTerm) eventLines.push_back(read.lines[i]);
+    }
+    Terms->setTerms(terms);
     m_reading = true;
-    for (const std::string& line : read.lines) {
+    for (const std::string& line : eventLines) {
         QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
         QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
         for (int i = 3; i < words.size(); ++i) {
@@ -458,8 +501,11 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     content.events.row = [events](std::size_t row) { return events[row]; };
     content.events.firstAmount = kValue;
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
+    if (const QString terms = Terms->described(); !terms.isEmpty())
+        content.figures.emplace_back(text(strings::kTermsTitle), terms);
     for (std::size_t i = 0; i < Figures.size(); ++i)
-        content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
+        if (i + 1 < Figures.size() || m_columns.unpaid)
+            content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
     // The chart at the report's size, whatever size the view has (or had, where it was never shown).
     content.chart = QImage(1800, 1000, QImage::Format_RGB32);
     content.chart.fill(Qt::white);
@@ -475,8 +521,8 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     auto payments = std::make_shared<const std::vector<engine::Payment>>(m_payments);
     content.schedule.headings = m_schedule->headings();
     content.schedule.rowCount = payments->size();
-    content.schedule.row = [payments, era = m_era, payDay = m_payDay](std::size_t row) {
-        return table::planRowText((*payments)[row], era, payDay);
+    content.schedule.row = [payments, era = m_era, payDay = m_payDay, columns = m_columns](std::size_t row) {
+        return table::planRowText((*payments)[row], era, payDay, columns);
     };
     content.schedule.firstAmount = table::kAmount;
 

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 class QChartView;
+class QFormLayout;
 class QLabel;
 class QPushButton;
 class QTableView;
@@ -24,6 +25,7 @@ class MainWindow;
 namespace planner {
 
 class CellsModel;
+class TermsBox;
 
 class PlanWindow : public QWidget {
     Q_OBJECT
@@ -34,7 +36,8 @@ public:
     void recalculate();
     void addEvent();
     void removeEvents();
-    // The selected events, one line each, and events pasted from lines.
+    // The lender terms that differ from the defaults and the selected events, one line each; events
+    // and terms pasted from lines.
     void copyEvents() const;
     void pasteEvents();
     // The whole schedule, headings and every row, for a spreadsheet.
@@ -43,11 +46,12 @@ public:
     bool saveCsv(const QString& path);
     bool exportPdf(const QString& path);
 
+    TermsBox* Terms;
     QTableWidget* Events;
     QTableView* Schedule;
     QTableView* Years;
     QChartView* Chart;
-    std::vector<QLabel*> Figures; // totals, then savings
+    std::vector<QLabel*> Figures; // totals, then savings, then the unpaid interest paid under reviews
     QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
 
 protected:
@@ -67,7 +71,9 @@ private:
     QPointer<shell::MainWindow> m_main;
     CellsModel* m_schedule;
     CellsModel* m_years;
+    QFormLayout* m_figures;
     std::vector<engine::Payment> m_payments;
+    table::PlanColumns m_columns; // as the terms have them
     std::vector<int> m_eventRows; // the list's row of each event read
     int m_era = 0;                // of the form, for the date column
     std::int64_t m_payDay = 0;    // as the form reads it

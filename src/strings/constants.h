@@ -139,7 +139,7 @@ inline constexpr Constant kTabs = KESTRUNE_TEXT("PlanWindow", "kTabs", "Schedule
 inline constexpr Constant kTotalNames =
     KESTRUNE_TEXT("PlanWindow", "kTotalNames",
                   "Payments\tTotal paid\tTotal interest\tTotal prepaid\tFees\tPay off\tInterest saved\tPayments "
-                  "saved\tNet saving\tBreak-even payment");
+                  "saved\tNet saving\tBreak-even payment\tUnpaid interest paid");
 inline constexpr Constant kYearsMonths = KESTRUNE_TEXT("PlanWindow", "kYearsMonths", "%1 (%2 years %3 months)");
 // Why a plan has no break-even payment.
 inline constexpr Constant kNoFees = KESTRUNE_TEXT("PlanWindow", "kNoFees", "no fees");
@@ -163,6 +163,23 @@ inline constexpr Constant kPasteRefused =
 inline constexpr Constant kLineTooLong =
     KESTRUNE_TEXT("PlanWindow", "kLineTooLong", "line %1 is longer than %2 characters.");
 inline constexpr Constant kTooManyLines = KESTRUNE_TEXT("PlanWindow", "kTooManyLines", "it has more than %1 lines.");
+inline constexpr Constant kBadTermLine =
+    KESTRUNE_TEXT("PlanWindow", "kBadTermLine", "line %1 sets a lender term wrongly: %2");
+// The lender terms above the events.
+inline constexpr Constant kTermsTitle = KESTRUNE_TEXT("PlanWindow", "kTermsTitle", "Lender terms");
+inline constexpr Constant kInterestLabel = KESTRUNE_TEXT("PlanWindow", "kInterestLabel", "&Interest:");
+inline constexpr Constant kInterestRules =
+    KESTRUNE_TEXT("PlanWindow", "kInterestRules", "by days\tby months, as lenders count it");
+inline constexpr Constant kRoundDown = KESTRUNE_TEXT("PlanWindow", "kRoundDown", "Round amounts &down to the yen");
+inline constexpr Constant kBonusPart = KESTRUNE_TEXT("PlanWindow", "kBonusPart", "&Bonus part:");
+inline constexpr Constant kBonusMonths = KESTRUNE_TEXT("PlanWindow", "kBonusMonths", "Bonus months");
+inline constexpr Constant kReview = KESTRUNE_TEXT("PlanWindow", "kReview", "&Five-year and 125 % rules");
+// Why the terms are refused, by the engine's reason; the last where the bonus part can't be read.
+inline constexpr Constant kTermErrors =
+    KESTRUNE_TEXT("PlanWindow", "kTermErrors",
+                  "\tThe bonus part is more than half the principal\tNo payment falls in the bonus months\tThe "
+                  "five-year and 125 % rules are for a flat payment only\tThe bonus part takes an amount above 0 "
+                  "and two different months");
 
 // AboutWindow
 inline constexpr Constant kCloseBtn = KESTRUNE_TEXT("AboutWindow", "kCloseBtn", "Close");
@@ -211,6 +228,11 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kSaveFailed,     kPrintFailed,
                                           kReportFailed,   kWritingReport,
                                           kCancel,         kPasteRefused,
-                                          kLineTooLong,    kTooManyLines};
+                                          kLineTooLong,    kTooManyLines,
+                                          kBadTermLine,    kTermsTitle,
+                                          kInterestLabel,  kInterestRules,
+                                          kRoundDown,      kBonusPart,
+                                          kBonusMonths,    kReview,
+                                          kTermErrors};
 
 } // namespace strings

@@ -312,7 +312,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events, terms) : engine::PlanOutcome{};
     const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed, {}, terms);
     const engine::Refusal refusal = plan ? outcome.refusal : calc.refusal;
-    if (refusal == engine::Refusal::BadTerms) return usageError(err, "bad term: " + calc.termsProblem);
+    if (refusal == engine::Refusal::BadTerms)
+        return usageError(err, "bad term: " + engine::termsProblem(calc.termsFit, terms));
     if (refusal == engine::Refusal::ZeroInput) {
         err << "kestrune-schedule: principal, rate and count must be non-zero\n";
         return 1;

@@ -4,17 +4,22 @@
 #include "uitest.h"
 
 #include "planner/planwindow.h"
+#include "planner/termsbox.h"
 #include "strings/lookup.h"
 
 #include <QChartView>
+#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLineSeries>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -224,6 +229,44 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsEventsTotalsAndEveryPayment) {
         "360 50.03.08 " + row(359) + "\n", // the last payment: the prepayments clear the loan
     };
     for (const std::string& part : expected) EXPECT_NE(text.find(part), std::string::npos) << part << "\nin\n" << text;
+}
+
+TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
+    planner::TermsBox* terms = plan->Terms;
+    paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nfee 1 0\n");
+    EXPECT_EQ(terms->Interest->currentText(), "by months, as lenders count it");
+    EXPECT_TRUE(terms->RoundDown->isChecked() && terms->Bonus->isChecked() && terms->Review->isChecked());
+    EXPECT_EQ(terms->BonusAmount->text(), "3,000,000");
+    EXPECT_EQ(plan->Events->rowCount(), 1);
+    QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
+                tool("--interest monthly --rounding down --bonus 3000000 --review --fee 1:0"));
+    EXPECT_FALSE(plan->Figures.back()->isHidden()) << "the unpaid interest paid";
+    plan->Events->selectAll();
+    QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              "interest monthly\nrounding down\nbonus 3000000 6 12\nreview\nfee 1 0\n");
+    // Each refusal is named under the terms and marked on its control; the plan shows no rows.
+    QTest::mouseClick(terms->BonusAmount, Qt::LeftButton);
+    terms->BonusAmount->selectAll();
+    QTest::keyClicks(terms->BonusAmount, "15,000,001");
+    QTest::keyClick(terms->BonusAmount, Qt::Key_Return);
+    EXPECT_EQ(terms->Problem->text(), "The bonus part is more than half the principal");
+    EXPECT_EQ(terms->BonusAmount->toolTip(), terms->Problem->text());
+    EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
+    terms->BonusAmount->setText("x");
+    terms->BonusMonth2->setValue(6);
+    EXPECT_EQ(terms->Problem->text(), "The bonus part takes an amount above 0 and two different months");
+    QTest::mouseClick(terms->Bonus, Qt::LeftButton);
+    w->KindPopup->setListIndex(1); // equal principal
+    EXPECT_EQ(terms->Problem->text(), "The five-year and 125 % rules are for a flat payment only");
+    EXPECT_EQ(terms->Review->toolTip(), terms->Problem->text());
+    QTest::mouseClick(terms->Review, Qt::LeftButton);
+    EXPECT_TRUE(terms->Problem->isHidden());
+    EXPECT_TRUE(plan->Figures.back()->isHidden()) << "no reviews, no unpaid interest";
+    paste("review\nbonus 1 2\n");
+    EXPECT_EQ(message(plan), "The pasted text was not added: line 2 sets a lender term wrongly: bonus 1 2");
+    EXPECT_FALSE(terms->Review->isChecked());
 }
 
 // A small file system of its own, full after a few kilobytes, or read-only, with a device that is
