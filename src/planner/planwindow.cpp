@@ -34,6 +34,7 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
@@ -81,7 +82,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
       m_years(new CellsModel(3, this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("PlanWindow");
-    resize(820, 720);
+    // No larger than the screen has room for, at any scale.
+    resize(QSize(920, 760).boundedTo(screen()->availableSize()));
 
     Terms = new TermsBox(this);
     connect(Terms, &TermsBox::changed, this, &PlanWindow::recalculate);

@@ -30,6 +30,7 @@ TermsBox::TermsBox(QWidget* parent) : QGroupBox(text(strings::kTermsTitle), pare
     BonusAmount->setAccessibleName(strings::withoutMnemonic(strings::kBonusPart));
     BonusAmount->setAlignment(Qt::AlignRight);
     BonusAmount->setPlaceholderText("9,000,000");
+    BonusAmount->setMinimumWidth(BonusAmount->fontMetrics().horizontalAdvance("9,999,999,999") + 16);
     const QString months = text(strings::kBonusMonths);
     const auto month = [this, &months](int value, int which) {
         auto* box = new QSpinBox(this);
