@@ -61,6 +61,29 @@ void PlanWithEvents(benchmark::State& state) {
 }
 BENCHMARK(PlanWithEvents)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
+// The same plan (flat payment) on a lender's terms: interest by months, rounding down, a bonus
+// part and the five-year and 125 % rules.
+void PlanOnLenderTerms(benchmark::State& state) {
+    engine::LoanForm form = loan(100'000, true);
+    form.principal = "9,000,000,000,000";
+    std::vector<engine::PlanEvent> events;
+    for (std::int64_t i = 0; i < 1000; ++i) {
+        const std::int64_t n = 1 + i * 97;
+        if (i % 2 == 0) events.push_back({engine::EventKind::RateChange, n, 0.01 + 0.001 * double(i % 7)});
+        if (i % 2 == 1)
+            events.push_back({engine::EventKind::Prepay, n, 1000.0,
+                              i % 4 == 1 ? engine::PrepayMode::Reduce : engine::PrepayMode::Shorten});
+    }
+    const engine::LenderTerms terms{engine::InterestRule::Monthly, engine::Rounding::Down,
+                                    engine::BonusPart{1'000'000'000'000, {6, 12}}, true};
+    for (auto _ : state) {
+        const auto plan = engine::calculate(form, {}, events, terms);
+        benchmark::DoNotOptimize(engine::planTotals(plan.payments));
+        state.counters["payments"] = static_cast<double>(plan.payments.size());
+    }
+}
+BENCHMARK(PlanOnLenderTerms)->Unit(benchmark::kMillisecond);
+
 // Recurring prepayments on 100,000 payments, each from its own payment: the lines repeat one
 // period (as 1,000 or 10,000 lines "prepay K 1 every 1") or spread over twelve.
 void RecurringEvents(benchmark::State& state) {
