@@ -504,7 +504,7 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     content.events.firstAmount = kValue;
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
     if (const QString terms = Terms->described(); !terms.isEmpty())
-        content.figures.emplace_back(text(strings::kTermsTitle), terms);
+        content.terms = text(strings::kTermsTitle) + ": " + terms;
     for (std::size_t i = 0; i < Figures.size(); ++i)
         if (i + 1 < Figures.size() || m_columns.unpaid)
             content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());

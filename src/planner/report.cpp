@@ -119,6 +119,12 @@ Painted paintReport(QPagedPaintDevice& device, const ReportContent& content,
                          content.title);
         flow.advance(titleHeight);
         painter.setFont(font);
+        if (!content.terms.isEmpty()) {
+            const QRect room(0, flow.y(), flow.page().width(), flow.page().height() / 4);
+            const QRect used = painter.boundingRect(room, Qt::TextWordWrap, content.terms);
+            painter.drawText(room, Qt::TextWordWrap, content.terms);
+            flow.advance(used.height() + painter.fontMetrics().height() / 2);
+        }
         if (!paintTable(flow, painter, content.events, false)) return false;
         const int line = painter.fontMetrics().height() * 5 / 4;
         flow.advance(line);

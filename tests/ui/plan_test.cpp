@@ -77,6 +77,14 @@ protected:
         pclose(pipe);
         return out;
     }
+    // The text of a PDF as pdftotext reads it, each line's words one blank apart.
+    static std::string pdfText(const QString& path) {
+        std::string text;
+        for (const QString& line :
+             QString::fromStdString(output("pdftotext -layout " + path.toStdString() + " -")).split('\n'))
+            text += line.simplified().toStdString() + "\n";
+        return text;
+    }
     planner::PlanWindow* plan = nullptr;
 };
 
@@ -214,12 +222,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsEventsTotalsAndEveryPayment) {
                 tool("--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     EXPECT_EQ(message(plan), "");
-    // Its text as pdftotext reads it, each line's words one blank apart.
-    std::string text;
-    for (const QString& line :
-         QString::fromStdString(output("pdftotext -layout " + dir.filePath("plan.pdf").toStdString() + " -"))
-             .split('\n'))
-        text += line.simplified().toStdString() + "\n";
+    const std::string text = pdfText(dir.filePath("plan.pdf"));
     const std::string expected[] = {
         "Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments\n",
         "Payment Kind Value Mode Every\n12 prepay 500000 reduce 12\n13 fee 1,000\n",
@@ -242,6 +245,17 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
                 tool("--interest monthly --rounding down --bonus 3000000 --review --fee 1:0"));
     EXPECT_FALSE(plan->Figures.back()->isHidden()) << "the unpaid interest paid";
+    QTemporaryDir dir;
+    ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
+    // Its lines joined, as the terms may wrap.
+    std::string report = pdfText(dir.filePath("plan.pdf"));
+    std::replace(report.begin(), report.end(), '\n', ' ');
+    const std::string parts[] = {
+        " Lender terms: by months, as lenders count it; Round amounts down to the yen; Bonus part: "
+        "3,000,000 (6, 12); Five-year and 125 % rules ",
+        " Unpaid interest paid " + plan->Figures.back()->text().toStdString() + " ",
+        " No. Repayment Amount Principal Interest Bonus Prepaid Unpaid interest Balance "};
+    for (const std::string& part : parts) EXPECT_NE(report.find(part), std::string::npos) << part << "\nin\n" << report;
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
