@@ -172,6 +172,7 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     printed.replace(printed.find(" )"), 2, ")");
     EXPECT_EQ(printed, figures);
     EXPECT_EQ(plan->Chart->chart()->series().size(), 4);
+    EXPECT_GT(static_cast<QLineSeries*>(plan->Chart->chart()->series().at(1))->count(), 0) << "without events";
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
 }
 
@@ -365,6 +366,8 @@ TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
     EXPECT_EQ(plan->Events->item(0, 0)->background(), QBrush());
     EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
     EXPECT_EQ(figure(0), "");
+    for (QAbstractSeries* series : plan->Chart->chart()->series())
+        EXPECT_EQ(static_cast<QLineSeries*>(series)->count(), 0) << "no chart of another plan";
     plan->Events->item(1, 2)->setText("2");
     EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), "");
     EXPECT_EQ(figure(0), "411");
