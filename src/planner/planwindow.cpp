@@ -80,7 +80,8 @@ QDateTime dateTime(const calendar::Date& date) {
 PlanWindow::PlanWindow(shell::MainWindow* main)
     : QWidget(main, Qt::Window), m_main(main), m_schedule(new CellsModel(table::kAmount, this)),
       m_years(new CellsModel(3, this)) {
-    setAttribute(Qt::WA_DeleteOnClose);
+    // Closing hides it: its terms and events belong to its main window's loan and come back when
+    // it is opened again. It goes with its main window.
     setObjectName("PlanWindow");
     // No larger than the screen has room for, at any scale.
     resize(QSize(920, 760).boundedTo(screen()->availableSize()));
@@ -129,6 +130,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     });
     // New and Quit answer their keys here as in every window of the program.
     addActions({shell::App::instance()->fileNewAction(), shell::App::instance()->fileQuitAction()});
+    // Ctrl+W closes it, as it closes a document window; so does an Escape no control takes.
+    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     // Copy Schedule answers its key wherever the focus is in this window.
     auto* copyScheduleKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this);
     connect(copyScheduleKey, &QShortcut::activated, this, &PlanWindow::copySchedule);
@@ -187,7 +190,6 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     layout->addLayout(bottom);
 
     connect(main, &shell::MainWindow::calculated, this, &PlanWindow::recalculate);
-    recalculate();
 }
 
 std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount, std::optional<int> refusedRow) {
@@ -227,8 +229,21 @@ void PlanWindow::markRow(int row, const QString& why) {
     }
 }
 
+void PlanWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void PlanWindow::showEvent(QShowEvent* event) {
+    recalculate();
+    QWidget::showEvent(event);
+}
+
 void PlanWindow::recalculate() {
-    if (!m_main) return;
+    // A closed window waits to be shown again.
+    if (!m_main || !isVisible()) return;
     const engine::LoanForm form = m_main->loanForm();
     const engine::LoanTerms terms = engine::readLoanForm(form);
     const QString method = (form.flatPayment ? text(strings::kGanri) : text(strings::kGankin)).trimmed();

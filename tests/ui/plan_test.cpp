@@ -113,6 +113,27 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     EXPECT_TRUE(open.isNull()) << "closed with its window";
 }
 
+TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
+    paste("rounding down\nfee 1 10\n");
+    QTest::keyClick(plan->Events, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(plan->isVisible()) << "Ctrl+W";
+    showActive(w);
+    QTest::keyClick(w, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_TRUE(plan->isVisible());
+    showActive(plan);
+    EXPECT_TRUE(plan->Terms->RoundDown->isChecked());
+    EXPECT_EQ(plan->Events->rowCount(), 1);
+    EXPECT_EQ(figure(4), "10") << "the fees";
+    // Escape ends an edit first; then it closes the window.
+    plan->Events->setCurrentCell(0, 2);
+    QTest::keyClick(plan->Events, Qt::Key_F2);
+    ASSERT_NE(plan->Events->indexWidget(plan->Events->currentIndex()), nullptr) << "an editor open";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(plan->isVisible());
+    QTest::keyClick(plan->Events, Qt::Key_Escape);
+    EXPECT_FALSE(plan->isVisible());
+}
+
 TEST(PlanWindow, EveryMnemonicIsUniqueAndDialogsShowNoneInEachLanguage) {
     for (const bool japanese : {false, true}) {
         const std::unique_ptr<Japanese> translation(japanese ? new Japanese : nullptr);
