@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <map>
 #include <random>
 
 namespace engine {
@@ -78,7 +80,8 @@ struct Part {
 
 // The plan's payments, or none where an amount is beyond 2^53 or the bonus part doesn't fit.
 std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const engine::LenderTerms& terms,
-                                         const std::vector<PlanEvent>& events) {
+                                         const std::vector<PlanEvent>& events,
+                                         std::int64_t prepayUntil = engine::kMaxPayments) {
     const bool down = terms.rounding == engine::Rounding::Down, flat = loan.flatPayment;
     const std::int64_t count = loan.paymentCount;
     // The date of every payment, and which of them are bonus payments.
@@ -188,7 +191,7 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
         for (const PlanEvent& e : events) {
             if (!due(e, n)) continue;
             if (e.kind == EventKind::Fee) p.fee += e.value;
-            if (e.kind != EventKind::Prepay) continue;
+            if (e.kind != EventKind::Prepay || n > prepayUntil) continue;
             (e.mode == PrepayMode::Reduce ? reduce : shorten) += e.value;
             (e.mode == PrepayMode::Reduce ? anyReduce : anyShorten) = true;
         }
@@ -247,6 +250,8 @@ struct Model {
     engine::PlanTotals totals;
     engine::PlanSavings savings;
     std::vector<engine::YearFigures> years;
+    bool tooShort = false;
+    std::optional<std::int64_t> endsFrom;
 };
 
 engine::PlanTotals totalsOf(const std::vector<Payment>& payments) {
@@ -261,6 +266,7 @@ engine::PlanTotals totalsOf(const std::vector<Payment>& payments) {
         t.payoff = p.date;
     }
     t.payments = static_cast<std::int64_t>(payments.size());
+    t.netCost = t.interest + t.fees;
     return t;
 }
 
@@ -268,7 +274,35 @@ bool exact(const engine::PlanTotals& t) {
     return !beyond(t.paid) && !beyond(t.principal) && !beyond(t.interest) && !beyond(t.prepaid) && !beyond(t.fees);
 }
 
-Model model(const engine::LoanRecord& loan, const engine::LenderTerms& terms, const std::vector<PlanEvent>& events) {
+// The months from the first payment's to the last's, both counted.
+std::int64_t months(const std::vector<Payment>& payments) {
+    return payments.empty() ? 0
+                            : (payments.back().date.Year() - payments.front().date.Year()) * 12 +
+                                  payments.back().date.Month() - payments.front().date.Month() + 1;
+}
+
+// The deduction of each year of a deduction at a rate of whole tenths of a percent: the balance
+// after the year's last payment so far (the principal before any), at most the cap, x the rate,
+// cut to 100 yen, no less than 0 and no more than the limit; none after the pay-off or from
+// `endsFrom` on.
+std::map<std::int64_t, double> deductions(const engine::TaxDeduction& d, const std::vector<Payment>& payments,
+                                          double principal, std::int64_t borrowedYear, std::int64_t endsFrom) {
+    std::map<std::int64_t, double> years;
+    const std::int64_t first = d.fromYear.value_or(borrowedYear);
+    for (std::int64_t year = first; year < first + d.years && year < endsFrom; ++year) {
+        if (payments.empty() || year > payments.back().date.Year()) break;
+        double balance = principal;
+        for (const Payment& p : payments)
+            if (p.date.Year() <= year) balance = p.balance;
+        const auto yen = static_cast<std::int64_t>(std::min(balance, d.cap)) * std::llround(d.ratePercent * 10) / 1000;
+        years[year] =
+            std::min(static_cast<double>(std::max<std::int64_t>(0, yen / 100 * 100)), d.limit.value_or(1e300));
+    }
+    return years;
+}
+
+Model model(const engine::LoanRecord& loan, const engine::LenderTerms& terms, const std::vector<PlanEvent>& events,
+            const std::optional<engine::TaxDeduction>& deduction) {
     Model m;
     const auto plan = walk(loan, terms, events), base = walk(loan, terms, {});
     if (!plan || !base || !exact(totalsOf(*plan)) || !exact(totalsOf(*base))) return m;
@@ -304,6 +338,39 @@ Model model(const engine::LoanRecord& loan, const engine::LenderTerms& terms, co
         y.balance = p.balance;
         y.lastPayment = p.date;
     }
+    if (!deduction || months(m.base) < 120) {
+        m.tooShort = deduction.has_value();
+        return m;
+    }
+    // The ten-year rule: the first prepayment after which the plan, prepaying no more, runs less.
+    std::int64_t endsFrom = 99999;
+    for (const Payment& p : m.plan) {
+        if (months(m.plan) >= 120) break;
+        const auto until = p.prepaid > 0 ? walk(loan, terms, events, p.number) : std::nullopt;
+        if (until && months(*until) < 120) {
+            endsFrom = p.date.Year();
+            m.endsFrom = endsFrom;
+            break;
+        }
+    }
+    const std::int64_t borrowed = loan.dates.borrowed.Year();
+    double baseDeduction = 0;
+    for (const auto& [year, amount] : deductions(*deduction, m.base, loan.principal, borrowed, 99999))
+        baseDeduction += amount;
+    for (const auto& [year, amount] : deductions(*deduction, m.plan, loan.principal, borrowed, endsFrom)) {
+        m.totals.deduction += amount;
+        auto y = std::find_if(m.years.begin(), m.years.end(), [year](const auto& f) { return f.year >= year; });
+        if (y == m.years.end() || y->year != year) {
+            y = m.years.insert(y, engine::YearFigures{});
+            y->year = year;
+            y->balance = loan.principal;
+            y->lastPayment = calendar::Date(year, 12, 31);
+        }
+        y->deduction = amount;
+    }
+    m.totals.netCost = m.totals.interest + m.totals.fees - m.totals.deduction;
+    m.savings.deductionLost = baseDeduction - m.totals.deduction;
+    m.savings.netSaving = (without.interest - baseDeduction) - m.totals.netCost;
     return m;
 }
 
@@ -313,6 +380,7 @@ struct RandomPlan {
     engine::LoanForm form;
     std::vector<PlanEvent> events;
     engine::LenderTerms terms;
+    std::optional<engine::TaxDeduction> deduction;
 };
 
 RandomPlan randomPlan(std::mt19937_64& random) {
@@ -334,6 +402,13 @@ RandomPlan randomPlan(std::mt19937_64& random) {
                pick(0, 1) ? engine::Rounding::Down : engine::Rounding::Nearest, std::nullopt};
     // Reviews for most flat loans, and now and then for one of equal principal, to be refused.
     r.terms.review = pick(0, 2) > 0 ? r.form.flatPayment : pick(0, 30) == 0;
+    // Now and then a tax deduction, its rate in tenths of a percent, now and then limited.
+    if (pick(0, 2) == 0) {
+        r.deduction = engine::TaxDeduction{static_cast<double>(pick(1, 10)) / 10.0, pick(1, 15),
+                                           static_cast<double>(pick(1, 50'000'000)), std::nullopt, std::nullopt};
+        if (pick(0, 2) == 0) r.deduction->fromYear = pick(1950, 2060);
+        if (pick(0, 2) == 0) r.deduction->limit = static_cast<double>(pick(0, 300'000));
+    }
     // Now and then a bonus part, up to half the principal (or above, to be refused).
     if (pick(0, 2) == 0) {
         const std::int64_t principal = std::stoll(r.form.principal), first = pick(1, 12);
@@ -387,6 +462,7 @@ std::string describe(const RandomPlan& r) {
                        r.form.date.day + " day " + r.form.date.payDay + " delay " + std::to_string(r.form.delay) +
                        (r.form.flatPayment ? " flat" : " equal");
     for (const std::string& line : engine::termLines(r.terms)) text += " | " + line;
+    if (r.deduction) text += " | " + engine::deductionLine(*r.deduction);
     for (const PlanEvent& e : r.events) text += " | " + engine::eventLine(e);
     return text;
 }
@@ -394,13 +470,13 @@ std::string describe(const RandomPlan& r) {
 TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
     const std::uint64_t plans = setting("KESTRUNE_MODEL_PLANS", 3000), seed = setting("KESTRUNE_MODEL_SEED", 1123);
     std::mt19937_64 random(seed);
-    std::size_t refused = 0, cleared = 0, brokeEven = 0, unpaid = 0, bonus = 0;
+    std::size_t refused = 0, cleared = 0, brokeEven = 0, unpaid = 0, bonus = 0, deducted = 0, tenYears = 0;
     for (std::uint64_t i = 0; i < plans; ++i) {
         const RandomPlan r = randomPlan(random);
-        const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events, r.terms);
+        const engine::PlanOutcome engine = engine::evaluatePlan(r.form, r.events, r.terms, r.deduction);
         const std::string where = "seed " + std::to_string(seed) + " plan " + std::to_string(i) + ": " + describe(r);
         if (engine.base.refusal == engine::Refusal::ZeroInput) continue;
-        const Model m = model(engine.base.record, r.terms, r.events);
+        const Model m = model(engine.base.record, r.terms, r.events, r.deduction);
         ASSERT_EQ(engine.refusal != engine::Refusal::None, m.refused) << where;
         if (m.refused) {
             ++refused;
@@ -411,21 +487,28 @@ TEST(ReferenceModel, AgreesWithTheEngineOnRandomPlans) {
         ASSERT_TRUE(engine.totals == m.totals) << where;
         ASSERT_TRUE(engine.savings == m.savings) << where;
         ASSERT_TRUE(engine.years == m.years) << where;
+        ASSERT_EQ(engine.deductionTooShort, m.tooShort) << where;
+        ASSERT_EQ(engine.deductionEndsFrom, m.endsFrom) << where;
         cleared += m.plan.size() < m.base.size();
         brokeEven += m.savings.breakEven.has_value();
         unpaid += m.totals.unpaidPaid > 0;
         bonus += r.terms.bonus.has_value();
+        deducted += m.totals.deduction > 0;
+        tenYears += m.endsFrom.has_value();
     }
     // The plans reach the rules that matter: refusals, loans ended early, fees earned back,
-    // interest carried unpaid under reviews, bonus parts.
+    // interest carried unpaid under reviews, bonus parts, deductions and the ten-year rule.
     EXPECT_GT(refused, 0u);
     EXPECT_GT(cleared, plans / 10);
     EXPECT_GT(brokeEven, plans / 50);
     EXPECT_GT(unpaid, plans / 100);
     EXPECT_GT(bonus, plans / 10);
+    EXPECT_GT(deducted, plans / 10);
+    EXPECT_GT(tenYears, 0u);
     std::cout << "model: " << plans << " plans from seed " << seed << ": " << refused << " refused, " << cleared
               << " ended early, " << brokeEven << " broke even, " << unpaid << " carried interest unpaid, " << bonus
-              << " with a bonus part\n";
+              << " with a bonus part, " << deducted << " with a deduction, " << tenYears
+              << " lost it to the ten-year rule\n";
 }
 
 } // namespace

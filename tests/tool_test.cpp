@@ -98,6 +98,9 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
          "kestrune-schedule: bad term: the bonus part 50,000,001 is more than half the principal\n"},
         {"--times 2 --month 1 --bonus 1", 2, "kestrune-schedule: bad term: no payment falls in month 6 or 12\n"},
         {"--review", 2, "kestrune-schedule: bad term: the five-year and 125 % rules are for a flat payment only\n"},
+        {"--deduction 1:x", 2,
+         "kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" "
+         "an amount, all at least 0: deduction 1 x 30000000\n"},
         {"--prepay 1:1000:every=9223372036854775807", 2,
          "kestrune-schedule: bad event: every takes a count of payments from 1 to the count: prepay 1 1000 every "
          "9223372036854775807\n"},
@@ -240,6 +243,38 @@ TEST(ScheduleTool, AVariableRateUnderTheFiveYearAnd125Rules) {
     };
     const std::string header = "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tUnpaid interest\tBalance\n";
     for (const auto& [options, printed] : cases) EXPECT_EQ(run(loan + options).out, header + printed) << options;
+}
+
+// 30,000,000 flat over 420 payments from 1 April 2025, with the default deduction (0.7 % of at most
+// 30,000,000 for 13 years from 2025). At 0.2 %, 10,000,000 prepaid with payment 12 saves 577,412
+// of interest but loses 850,600 of deduction (2026: 18,530,453 x 0.7 % = 129,713 cut to 129,700,
+// against 199,800): a net loss of 273,188. At 0.5 %, 25,000,000 prepaid with payment 12 (April
+// 2026) ends the loan within six years: no deduction from 2026; 2025 gives 29,401,184 x 0.7 % =
+// 205,808, cut to 205,800.
+TEST(ScheduleTool, TheTaxDeductionInTheTotalsAndYears) {
+    const std::string loan = "--era western --year 2025 --month 4 --day 1 --principal 30,000,000 --times 420 "
+                             "--method flat --prepay 12:";
+    const std::pair<std::string, std::string> cases[] = {
+        {"10,000,000 --rate 0.2 --deduction --totals --last 0 --format tsv",
+         "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n\nPayments\t277\nPaid\t30,483,272\n"
+         "Principal\t20,000,000\nInterest\t483,272\nPrepaid\t10,000,000\nFees\t0\nDeduction\t1,365,700\n"
+         "Net cost\t-882,428\nPayoff\t2048 / 4 / 8 \nInterest saved\t577,412\nDeduction lost\t850,600\n"
+         "Payments saved\t143 (11 years 11 months)\nNet saving\t-273,188\nBreak-even payment\tno fees\n"},
+        {"25,000,000 --rate 0.5 --deduction=:::: --by-year --totals --format tsv",
+         "Year\tEra year\tPayments\tAmount\tPrincipal\tInterest\tPrepaid\tFees\tDeduction\tBalance\n"
+         "2025\t2025\t9\t700,884\t598,816\t102,068\t0\t0\t205,800\t29,401,184\n"
+         "2026\t2026\t12\t934,512\t883,685\t50,827\t25,000,000\t0\t0\t3,517,499\n"
+         "2027\t2027\t12\t934,512\t919,042\t15,470\t0\t0\t0\t2,598,457\n"
+         "2028\t2028\t12\t934,512\t923,609\t10,903\t0\t0\t0\t1,674,848\n"
+         "2029\t2029\t12\t934,512\t928,271\t6,241\t0\t0\t0\t746,577\n"
+         "2030\t2030\t10\t748,227\t746,577\t1,650\t0\t0\t0\t0\n\nPayments\t67\nPaid\t30,187,159\n"
+         "Principal\t5,000,000\nInterest\t187,159\nPrepaid\t25,000,000\nFees\t0\nDeduction\t205,800\n"
+         "Net cost\t-18,641\nPayoff\t2030 / 10 / 8 \n"
+         "Deduction note\tNo deduction from 2026: the term is now shorter than ten years\nInterest saved\t2,509,304\n"
+         "Deduction lost\t2,030,100\nPayments saved\t353 (29 years 5 months)\nNet saving\t479,204\n"
+         "Break-even payment\tno fees\n"},
+    };
+    for (const auto& [options, printed] : cases) EXPECT_EQ(run(loan + options).out, printed) << options;
 }
 
 TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {

@@ -355,6 +355,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <comment>Unpaid interest</comment>
         <translation>未払利息</translation>
     </message>
+    <message>
+        <source>kDeductionHeading</source>
+        <comment>Deduction</comment>
+        <translation>住宅ローン控除</translation>
+    </message>
 </context>
 <context>
     <name>PlanWindow</name>

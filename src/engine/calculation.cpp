@@ -55,7 +55,7 @@ LoanRecord settleLoan(const LoanTerms& terms, const LenderTerms& lender) {
 }
 
 Calculation calculate(const LoanForm& form, const ListedRange& listed, const std::vector<PlanEvent>& events,
-                      const LenderTerms& lender) {
+                      const LenderTerms& lender, std::int64_t prepaymentsUntil) {
     Calculation calc;
     calc.terms = readLoanForm(form);
     if (calc.terms.zeroInput) {
@@ -75,7 +75,7 @@ Calculation calculate(const LoanForm& form, const ListedRange& listed, const std
     const long double typed = runtime::wideVal(runtime::withoutCommas(form.principal));
     const bool exact = typed >= -kMaxExactAmount && typed <= kMaxExactAmount && isExactAmount(fixedAmount) &&
                        isExactAmount(bonusAmount);
-    auto payments = exact ? walkSchedule(calc.record, listed, events) : std::nullopt;
+    auto payments = exact ? walkSchedule(calc.record, listed, events, prepaymentsUntil) : std::nullopt;
     if (!payments) {
         calc.refusal = Refusal::OutOfRange;
         return calc;

@@ -27,8 +27,9 @@ struct Calculation {
     TermsFit termsFit = TermsFit::Fits; // why the terms are refused
 };
 
-// With events and lender terms, the calculation of a plan; refused as without.
+// With events and lender terms, the calculation of a plan; refused as without. No prepayment
+// acts after payment `prepaymentsUntil`.
 Calculation calculate(const LoanForm& form, const ListedRange& listed = {}, const std::vector<PlanEvent>& events = {},
-                      const LenderTerms& lender = {});
+                      const LenderTerms& lender = {}, std::int64_t prepaymentsUntil = kMaxPayments);
 
 } // namespace engine

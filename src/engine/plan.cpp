@@ -128,6 +128,7 @@ PlanTotals planTotals(const std::vector<Payment>& payments) {
         totals.unpaidPaid += p.unpaidPaid;
     }
     totals.payments = static_cast<std::int64_t>(payments.size());
+    totals.netCost = totals.interest + totals.fees;
     if (!payments.empty()) totals.payoff = payments.back().date;
     return totals;
 }
@@ -171,7 +172,46 @@ Calculation planCalculation(const LoanForm& form, const std::vector<PlanEvent>& 
 
 } // namespace
 
-PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender) {
+namespace {
+
+// The year of the first prepayment after which the plan, with no later prepayment, would run less
+// than ten years; none where it runs ten years or more. Such a plan has fewer than 120 payments,
+// so each prepayment is tried on those 120 at most.
+std::optional<std::int64_t> deductionEndsFrom(const LoanForm& form, const std::vector<PlanEvent>& events,
+                                              const LenderTerms& lender, const std::vector<Payment>& plan) {
+    if (repaymentMonths(plan) >= kMinDeductionMonths) return std::nullopt;
+    for (const Payment& p : plan) {
+        if (p.prepaid <= 0.0) continue;
+        const Calculation until = calculate(form, {1, kMinDeductionMonths}, events, lender, p.number);
+        if (until.refusal == Refusal::None && repaymentMonths(until.payments) < kMinDeductionMonths)
+            return p.date.Year();
+    }
+    return std::nullopt;
+}
+
+// Each year's deduction added to the totals and to the years it belongs to; a year before the
+// first payment gains a row of its own with the principal as its balance.
+void addDeductions(const std::vector<YearDeduction>& deductions, double principal, PlanTotals& totals,
+                   std::vector<YearFigures>& years) {
+    for (const YearDeduction& d : deductions) {
+        totals.deduction += d.amount;
+        auto at = std::find_if(years.begin(), years.end(), [&d](const YearFigures& y) { return y.year >= d.year; });
+        if (at == years.end() || at->year != d.year) {
+            YearFigures before;
+            before.year = d.year;
+            before.balance = principal;
+            before.lastPayment = calendar::Date(d.year, 12, 31);
+            at = years.insert(at, before);
+        }
+        at->deduction = d.amount;
+    }
+    totals.netCost = totals.interest + totals.fees - totals.deduction;
+}
+
+} // namespace
+
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender,
+                         const std::optional<TaxDeduction>& deduction) {
     PlanOutcome outcome;
     outcome.base = planCalculation(form, {}, lender);
     outcome.plan = events.empty() ? outcome.base : planCalculation(form, events, lender);
@@ -192,6 +232,22 @@ PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& eve
     outcome.totals = planTotals(outcome.plan.payments);
     outcome.savings = planSavings(outcome.base.payments, outcome.plan.payments);
     outcome.years = yearlyFigures(outcome.plan.payments);
+    if (!deduction) return outcome;
+    // A loan shorter than ten years from the start has no deduction, with or without events.
+    const double principal = outcome.plan.record.principal;
+    const std::int64_t borrowed = outcome.plan.record.dates.borrowed.Year();
+    outcome.deductionTooShort = repaymentMonths(outcome.base.payments) < kMinDeductionMonths;
+    if (outcome.deductionTooShort) return outcome;
+    outcome.deductionEndsFrom = deductionEndsFrom(form, events, lender, outcome.plan.payments);
+    const auto ofPlan =
+        yearlyDeductions(*deduction, outcome.plan.payments, principal, borrowed, outcome.deductionEndsFrom);
+    PlanTotals base = planTotals(outcome.base.payments);
+    std::vector<YearFigures> baseYears;
+    addDeductions(yearlyDeductions(*deduction, outcome.base.payments, principal, borrowed, std::nullopt), principal,
+                  base, baseYears);
+    addDeductions(ofPlan, principal, outcome.totals, outcome.years);
+    outcome.savings.deductionLost = base.deduction - outcome.totals.deduction;
+    outcome.savings.netSaving = base.netCost - outcome.totals.netCost;
     return outcome;
 }
 

@@ -5,6 +5,7 @@
 // same loan without events, and the figures of each calendar year.
 
 #include "engine/calculation.h"
+#include "engine/deduction.h"
 
 #include <istream>
 #include <optional>
@@ -54,6 +55,8 @@ struct PlanTotals {
     double prepaid = 0.0;
     double fees = 0.0;
     double unpaidPaid = 0.0; // of the interest, what was carried unpaid under reviews
+    double deduction = 0.0;  // the housing-loan tax deduction of every year
+    double netCost = 0.0;    // interest and fees less the deduction
     calendar::Date payoff;   // the date of the last payment
     friend bool operator==(const PlanTotals&, const PlanTotals&) = default;
 };
@@ -63,7 +66,8 @@ PlanTotals planTotals(const std::vector<Payment>& payments);
 struct PlanSavings {
     double interestSaved = 0.0;
     std::int64_t paymentsSaved = 0;
-    double netSaving = 0.0; // interest saved less fees
+    double deductionLost = 0.0; // the deduction the plan gives less than the loan without events
+    double netSaving = 0.0;     // interest saved less fees and deduction lost: the net costs compared
     // The first payment, from the first fee's on, by which the interest saved so far reaches the
     // fees paid so far; none without fees, or where it never does.
     std::optional<std::int64_t> breakEven;
@@ -81,15 +85,16 @@ struct YearFigures {
     double interest = 0.0;
     double prepaid = 0.0;
     double fees = 0.0;
-    double balance = 0.0; // after the year's last payment
+    double deduction = 0.0;
+    double balance = 0.0; // after the year's last payment, or the principal before the first
     calendar::Date lastPayment;
     friend bool operator==(const YearFigures&, const YearFigures&) = default;
 };
 std::vector<YearFigures> yearlyFigures(const std::vector<Payment>& payments);
 
 // A plan worked out: the loan of the form with its events and without them, both on the lender
-// terms, and what the plan comes to. Refused as the calculation is, and also where a total goes
-// beyond kMaxExactAmount.
+// terms and with the tax deduction where one is given, and what the plan comes to. Refused as the
+// calculation is, and also where a total goes beyond kMaxExactAmount.
 struct PlanOutcome {
     Refusal refusal = Refusal::None;
     // Where the loan without events is fine and the plan is not: the first event that, added to
@@ -100,7 +105,12 @@ struct PlanOutcome {
     PlanTotals totals;
     PlanSavings savings;
     std::vector<YearFigures> years;
+    // The ten-year rule: no deduction at all (the loan is shorter from the start), or none from
+    // this year (the year of the prepayment that made it shorter).
+    bool deductionTooShort = false;
+    std::optional<std::int64_t> deductionEndsFrom;
 };
-PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender = {});
+PlanOutcome evaluatePlan(const LoanForm& form, const std::vector<PlanEvent>& events, const LenderTerms& lender = {},
+                         const std::optional<TaxDeduction>& deduction = {});
 
 } // namespace engine

@@ -215,7 +215,7 @@ std::pair<double, double> split(double amount, double monthly, double bonus, Rou
 } // namespace
 
 std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed,
-                                                 const std::vector<PlanEvent>& events) {
+                                                 const std::vector<PlanEvent>& events, std::int64_t prepaymentsUntil) {
     const std::int64_t all = std::min(record.paymentCount, kMaxPayments);
     const std::int64_t limit = listed.last < 0 ? all : std::min(listed.last, all);
     std::vector<Payment> payments;
@@ -238,7 +238,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
 
     for (std::int64_t i = 0; i < limit; ++i) {
         const std::int64_t n = i + 1;
-        const DueEvents due = agenda.at(n);
+        DueEvents due = agenda.at(n);
+        if (n > prepaymentsUntil) due.anyReduce = due.anyShorten = false;
         const bool bonusDue = !bonus.ended && record.lender.bonus->isBonusPayment(firstMonth, n);
         if (due.rate) {
             rules.ratePercent = *due.rate;

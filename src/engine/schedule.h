@@ -31,9 +31,11 @@ struct Payment {
     friend bool operator==(const Payment&, const Payment&) = default;
 };
 
-// The payments of the listed range (up to the last payment), with the events of a plan. Empty
-// optional where an amount of any payment walked is beyond kMaxExactAmount.
+// The payments of the listed range (up to the last payment), with the events of a plan, but no
+// prepayment after `prepaymentsUntil`. Empty optional where an amount of any payment walked is
+// beyond kMaxExactAmount.
 std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const ListedRange& listed,
-                                                 const std::vector<PlanEvent>& events = {});
+                                                 const std::vector<PlanEvent>& events = {},
+                                                 std::int64_t prepaymentsUntil = kMaxPayments);
 
 } // namespace engine

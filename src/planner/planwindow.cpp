@@ -285,8 +285,9 @@ void PlanWindow::recalculate() {
         return table::planRowText(m_payments[row], m_era, m_payDay, m_columns);
     });
     m_figures->setRowVisible(static_cast<int>(Figures.size()) - 1, m_columns.unpaid);
-    auto years = std::make_shared<std::vector<table::Cells>>(
-        table::yearRowTexts(m_payments, era, m_payDay, shell::MainWindow::payoffWords().eraNames));
+    auto years = std::make_shared<std::vector<table::Cells>>(table::yearRowTexts(
+        outcome.refusal == engine::Refusal::None ? outcome.years : std::vector<engine::YearFigures>{}, era, m_payDay,
+        shell::MainWindow::payoffWords().eraNames, false));
     m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
                      [years](std::size_t row) { return (*years)[row]; });
     showFigures(outcome, form.era);

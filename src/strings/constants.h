@@ -83,6 +83,7 @@ inline constexpr Constant kHideBelowTip =
 // The column of extra principal that a plan's rows carry.
 inline constexpr Constant kPrepaidHeading = KESTRUNE_TEXT("MainWindow", "kPrepaidHeading", "Prepaid");
 inline constexpr Constant kBonusHeading = KESTRUNE_TEXT("MainWindow", "kBonusHeading", "Bonus");
+inline constexpr Constant kDeductionHeading = KESTRUNE_TEXT("MainWindow", "kDeductionHeading", "Deduction");
 inline constexpr Constant kUnpaidHeading = KESTRUNE_TEXT("MainWindow", "kUnpaidHeading", "Unpaid interest");
 
 // Names that assistive technology reads for controls whose label does not name them.
@@ -210,29 +211,29 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kShowPayoffTip,  kHideBelowButton,
                                           kHideBelowTip,   kHelpText,
                                           kPrepaidHeading, kBonusHeading,
-                                          kUnpaidHeading,  kAccBorrowYear,
-                                          kAccBorrowMonth, kAccBorrowDay,
-                                          kAccPayDay,      kAccCalendar,
-                                          kAccDelay,       kAccMethod,
-                                          kAccTable,       kCloseBtn,
-                                          kPlanMenu,       kPlanItem,
-                                          kPlanTitle,      kEventHeader,
-                                          kEventErrors,    kAddEvent,
-                                          kRemoveEvent,    kCopySchedule,
-                                          kSaveCsv,        kPrint,
-                                          kExportPdf,      kTabs,
-                                          kTotalNames,     kYearsMonths,
-                                          kNoFees,         kNotEarnedBack,
-                                          kYearHeader,     kChartNames,
-                                          kPointer,        kEventsTitle,
-                                          kSaveFailed,     kPrintFailed,
-                                          kReportFailed,   kWritingReport,
-                                          kCancel,         kPasteRefused,
-                                          kLineTooLong,    kTooManyLines,
-                                          kBadTermLine,    kTermsTitle,
-                                          kInterestLabel,  kInterestRules,
-                                          kRoundDown,      kBonusPart,
-                                          kBonusMonths,    kReview,
-                                          kTermErrors};
+                                          kUnpaidHeading,  kDeductionHeading,
+                                          kAccBorrowYear,  kAccBorrowMonth,
+                                          kAccBorrowDay,   kAccPayDay,
+                                          kAccCalendar,    kAccDelay,
+                                          kAccMethod,      kAccTable,
+                                          kCloseBtn,       kPlanMenu,
+                                          kPlanItem,       kPlanTitle,
+                                          kEventHeader,    kEventErrors,
+                                          kAddEvent,       kRemoveEvent,
+                                          kCopySchedule,   kSaveCsv,
+                                          kPrint,          kExportPdf,
+                                          kTabs,           kTotalNames,
+                                          kYearsMonths,    kNoFees,
+                                          kNotEarnedBack,  kYearHeader,
+                                          kChartNames,     kPointer,
+                                          kEventsTitle,    kSaveFailed,
+                                          kPrintFailed,    kReportFailed,
+                                          kWritingReport,  kCancel,
+                                          kPasteRefused,   kLineTooLong,
+                                          kTooManyLines,   kBadTermLine,
+                                          kTermsTitle,     kInterestLabel,
+                                          kInterestRules,  kRoundDown,
+                                          kBonusPart,      kBonusMonths,
+                                          kReview,         kTermErrors};
 
 } // namespace strings

@@ -65,17 +65,18 @@ std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, in
     return rows;
 }
 
-std::vector<Cells> yearRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
-                                const std::array<std::string, calendar::kEraCount>& eraNames) {
+std::vector<Cells> yearRowTexts(const std::vector<engine::YearFigures>& years, int era, std::int64_t payDay,
+                                const std::array<std::string, calendar::kEraCount>& eraNames, bool withDeduction) {
     const auto amount = [](double value) { return Format(value, kAmountMask); };
     std::vector<Cells> rows;
-    for (const engine::YearFigures& y : engine::yearlyFigures(payments)) {
+    for (const engine::YearFigures& y : years) {
         const auto shown = calendar::displayedEraYear(era, y.year, y.lastPayment.Month(), payDay);
         const std::string eraYear = shown.era == calendar::kWestern ? runtime::Str(shown.year)
                                                                     : eraNames[static_cast<std::size_t>(shown.era)] +
                                                                           " " + runtime::Str(shown.year);
         rows.push_back({runtime::Str(y.year), eraYear, runtime::Str(y.payments), amount(y.amount), amount(y.principal),
                         amount(y.interest), amount(y.prepaid), amount(y.fees), amount(y.balance)});
+        if (withDeduction) rows.back().insert(rows.back().end() - 1, amount(y.deduction));
     }
     return rows;
 }

@@ -5,7 +5,7 @@
 // back: a typed-over cell counts as it reads.
 
 #include "calendar/calendar.h"
-#include "engine/schedule.h"
+#include "engine/plan.h"
 
 #include <array>
 #include <string>
@@ -48,7 +48,8 @@ Cells planHeadings(const Cells& headings, const PlanHeadings& added, PlanColumns
 
 // One row a calendar year: the Western year, the year as the date column shows its era (with the
 // era's name from `eraNames`), the count of payments and the amounts, the balance at its end.
-std::vector<Cells> yearRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
-                                const std::array<std::string, calendar::kEraCount>& eraNames);
+// With a tax deduction, each year's deduction before the balance.
+std::vector<Cells> yearRowTexts(const std::vector<engine::YearFigures>& years, int era, std::int64_t payDay,
+                                const std::array<std::string, calendar::kEraCount>& eraNames, bool withDeduction);
 
 } // namespace table

@@ -55,13 +55,20 @@ them into the form. No field corrections are applied. Each option is given as
   --bonus AMOUNT[:M1,M2]  AMOUNT of the principal is a bonus part, repaid by payments made with
                      the regular payments of months M1 and M2 (6 and 12 by default): its flat
                      payment at rate / 2 a half year, or equal principal; a Bonus column shows them
+  --deduction [RATE[:YEARS[:CAP[:FROM[:LIMIT]]]]]
+                     the housing-loan tax deduction: each year from FROM (the borrowing year)
+                     for YEARS (13) years, min(the year-end balance, CAP (30,000,000)) x RATE
+                     (0.7 %), cut to 100 yen and to LIMIT (the taxes paid); none where the loan
+                     runs less than ten years. Any part may be empty for its default; with
+                     --totals and --by-year, the deduction and the net cost
   --review           the five-year and 125 % rules of a variable rate (flat payment only): a
                      rate change sets the payment anew only at payments 61, 121, ... (a bonus
                      part's every 10 bonus payments), at most 1.25 times the one before; interest
                      a payment doesn't cover is carried unpaid and paid with the last payment
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
                      "fee 61 330000", and terms, as "interest monthly", "rounding down",
-                     "bonus 9000000 6 12", "review";
+                     "bonus 9000000 6 12", "review", "deduction 0.7 13 30000000 from 2025
+                     limit 250000";
                      blank lines and lines from # are skipped
   --totals           after the table (in tsv and csv after a blank line), the totals and, with
                      events, the savings against the same loan without them
@@ -158,28 +165,44 @@ void printAligned(const table::Cells& header, const std::vector<table::Cells>& r
 
 std::string amount(double value) { return runtime::Format(value, table::kAmountMask); }
 
-// The lines of the totals and, for a plan with events, of its savings.
-std::vector<std::pair<std::string, std::string>>
-totalLines(const engine::PlanTotals& totals, const std::optional<engine::PlanSavings>& savings, int era, bool review) {
+// The lines of the totals and, for a plan with events, of its savings: a name and a value each.
+struct TotalLines {
+    std::vector<std::pair<std::string, std::string>> totals, savings;
+};
+TotalLines totalLines(const engine::PlanOutcome& outcome, bool withSavings, int era, bool review, bool deduction) {
     const auto date = [era](const calendar::Date& d) { return calendar::payoffText(d, era, {}); };
-    std::vector<std::pair<std::string, std::string>> lines{{"payments", runtime::Str(totals.payments)},
-                                                           {"paid", amount(totals.paid)},
-                                                           {"principal", amount(totals.principal)},
-                                                           {"interest", amount(totals.interest)},
-                                                           {"prepaid", amount(totals.prepaid)},
-                                                           {"fees", amount(totals.fees)},
-                                                           {"payoff", date(totals.payoff)}};
-    if (review) lines.insert(lines.begin() + 4, {"unpaid interest paid", amount(totals.unpaidPaid)});
-    if (!savings) return lines;
-    const std::int64_t saved = savings->paymentsSaved;
-    lines.insert(lines.end(), {{"interest saved", amount(savings->interestSaved)},
-                               {"payments saved", runtime::Str(saved) + " (" + runtime::Str(saved / 12) + " years " +
-                                                      runtime::Str(saved % 12) + " months)"},
-                               {"net saving", amount(savings->netSaving)}});
+    const engine::PlanTotals& totals = outcome.totals;
+    TotalLines lines;
+    lines.totals = {{"payments", runtime::Str(totals.payments)},
+                    {"paid", amount(totals.paid)},
+                    {"principal", amount(totals.principal)},
+                    {"interest", amount(totals.interest)},
+                    {"prepaid", amount(totals.prepaid)},
+                    {"fees", amount(totals.fees)},
+                    {"payoff", date(totals.payoff)}};
+    if (review) lines.totals.insert(lines.totals.begin() + 4, {"unpaid interest paid", amount(totals.unpaidPaid)});
+    if (deduction) {
+        lines.totals.insert(lines.totals.end() - 1,
+                            {{"deduction", amount(totals.deduction)}, {"net cost", amount(totals.netCost)}});
+        if (outcome.deductionTooShort)
+            lines.totals.emplace_back("deduction note", "No deduction: the term is shorter than ten years");
+        if (outcome.deductionEndsFrom)
+            lines.totals.emplace_back("deduction note", "No deduction from " +
+                                                            runtime::Str(*outcome.deductionEndsFrom) +
+                                                            ": the term is now shorter than ten years");
+    }
+    if (!withSavings) return lines;
+    const engine::PlanSavings& savings = outcome.savings;
+    const std::int64_t saved = savings.paymentsSaved;
+    lines.savings = {{"interest saved", amount(savings.interestSaved)},
+                     {"payments saved", runtime::Str(saved) + " (" + runtime::Str(saved / 12) + " years " +
+                                            runtime::Str(saved % 12) + " months)"},
+                     {"net saving", amount(savings.netSaving)}};
+    if (deduction) lines.savings.insert(lines.savings.begin() + 1, {"deduction lost", amount(savings.deductionLost)});
     const std::string_view none = totals.fees > 0 ? strings::kNotEarnedBack.defaultText : strings::kNoFees.defaultText;
-    lines.emplace_back("break-even payment", savings->breakEven ? runtime::Str(*savings->breakEven) + " (" +
-                                                                      date(savings->breakEvenDate) + ")"
-                                                                : std::string(none));
+    lines.savings.emplace_back("break-even payment", savings.breakEven ? runtime::Str(*savings.breakEven) + " (" +
+                                                                             date(savings.breakEvenDate) + ")"
+                                                                       : std::string(none));
     return lines;
 }
 
@@ -256,6 +279,22 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
             eventLines.emplace_back("review");
             continue;
         }
+        if (option == "--deduction") {
+            // Its value is optional: RATE[:YEARS[:CAP[:FROM[:LIMIT]]]], each part empty for its default.
+            const bool given = equals != std::string::npos || (i + 1 < args.size() && !args[i + 1].starts_with("--"));
+            const std::string value = equals != std::string::npos ? args[i].substr(equals + 1) : given ? args[++i] : "";
+            std::vector<std::string> parts = runtime::Split(value, ":");
+            parts.resize(std::max<std::size_t>(parts.size(), 5));
+            const engine::TaxDeduction defaults;
+            std::string line = "deduction " + (parts[0].empty() ? runtime::Str(defaults.ratePercent) : parts[0]) + " " +
+                               (parts[1].empty() ? runtime::Str(defaults.years) : parts[1]) + " " +
+                               (parts[2].empty() ? runtime::Str(defaults.cap) : parts[2]);
+            if (!parts[3].empty()) line += " from " + parts[3];
+            if (!parts[4].empty()) line += " limit " + parts[4];
+            for (std::size_t extra = 5; extra < parts.size(); ++extra) line += " " + parts[extra];
+            eventLines.push_back(line);
+            continue;
+        }
         if (option == "--totals" || option == "--by-year") {
             (option == "--totals" ? showTotals : byYear) = true;
             continue;
@@ -297,7 +336,12 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         return usageError(err, "more than " + std::to_string(engine::kMaxPlanLines) + " events");
     std::vector<engine::PlanEvent> events;
     engine::LenderTerms terms;
+    std::optional<engine::TaxDeduction> deduction;
     for (const std::string& line : eventLines) {
+        if (const engine::TermReading read = engine::readDeduction(line, deduction); read.isTerm) {
+            if (!read.error.empty()) return usageError(err, "bad term: " + read.error);
+            continue;
+        }
         if (const engine::TermReading term = engine::readTerm(line, terms); term.isTerm) {
             if (!term.error.empty()) return usageError(err, "bad term: " + term.error);
             continue;
@@ -309,7 +353,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const bool plan = !events.empty() || showTotals || byYear;
 
     // A plan counts all its payments, whatever rows are listed.
-    const engine::PlanOutcome outcome = plan ? engine::evaluatePlan(form, events, terms) : engine::PlanOutcome{};
+    const engine::PlanOutcome outcome =
+        plan ? engine::evaluatePlan(form, events, terms, deduction) : engine::PlanOutcome{};
     const engine::Calculation calc = plan ? outcome.plan : engine::calculate(form, listed, {}, terms);
     const engine::Refusal refusal = plan ? outcome.refusal : calc.refusal;
     if (refusal == engine::Refusal::BadTerms)
@@ -332,21 +377,21 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     const bool withPrepaid = !events.empty();
     const table::PlanColumns columns{terms.bonus.has_value(), withPrepaid, terms.review};
     std::vector<table::Cells> rows = table::planRowTexts(listedPayments, era, payDay, columns);
-    const table::Cells header = byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
-    if (byYear) rows = table::yearRowTexts(calc.payments, era, payDay, calendar::PayoffWords{}.eraNames);
+    table::Cells header = byYear ? runtime::Split(strings::kYearHeader.defaultText, "\t") : headerRow(columns);
+    if (byYear && deduction) header.insert(header.end() - 1, std::string(strings::kDeductionHeading.defaultText));
+    if (byYear)
+        rows = table::yearRowTexts(outcome.years, era, payDay, calendar::PayoffWords{}.eraNames, deduction.has_value());
 
-    const engine::PlanTotals& totals = outcome.totals;
-    std::optional<engine::PlanSavings> savings;
-    if (!events.empty()) savings = outcome.savings;
     const std::string payoff = calendar::payoffText(
-        withPrepaid && !calc.payments.empty() ? totals.payoff : calc.record.dates.payoff, form.era, {});
-    const auto lines = totalLines(totals, savings, form.era, terms.review);
+        withPrepaid && !calc.payments.empty() ? outcome.totals.payoff : calc.record.dates.payoff, form.era, {});
+    const TotalLines lines = totalLines(outcome, !events.empty(), form.era, terms.review, deduction.has_value());
     // The totals as rows of a name and a value, the name as a heading.
     std::vector<table::Cells> totalRows{{}};
-    for (auto [name, value] : lines) {
-        name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
-        totalRows.push_back({name, value});
-    }
+    for (const auto* part : {&lines.totals, &lines.savings})
+        for (auto [name, value] : *part) {
+            name[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(name[0])));
+            totalRows.push_back({name, value});
+        }
     if (!showTotals) totalRows.clear();
 
     switch (format) {
@@ -360,17 +405,17 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     default:
         out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(header)
             << ", \"rows\": " << jsonArrays(byYear ? std::vector<table::Cells>{} : rows);
-        // The first seven lines (eight under reviews) are the totals, those after them the savings.
-        const auto object = [&lines](std::size_t from, std::size_t to) {
+        const auto object = [](const std::vector<std::pair<std::string, std::string>>& part) {
             std::string text = "{";
-            for (std::size_t i = from; i < to; ++i)
-                text += (i > from ? ", " : "") + jsonString(lines[i].first) + ": " + jsonString(lines[i].second);
+            for (std::size_t i = 0; i < part.size(); ++i)
+                text += (i > 0 ? ", " : "") + jsonString(part[i].first) + ": " + jsonString(part[i].second);
             return text + "}";
         };
-        const std::size_t totalCount = terms.review ? 8 : 7;
-        if (plan) out << ", \"totals\": " << object(0, totalCount);
-        if (savings) out << ", \"savings\": " << object(totalCount, lines.size());
-        if (const table::Cells set = engine::termLines(terms); !set.empty()) out << ", \"terms\": " << jsonArray(set);
+        if (plan) out << ", \"totals\": " << object(lines.totals);
+        if (!events.empty()) out << ", \"savings\": " << object(lines.savings);
+        table::Cells set = engine::termLines(terms);
+        if (deduction) set.push_back(engine::deductionLine(*deduction));
+        if (!set.empty()) out << ", \"terms\": " << jsonArray(set);
         if (!events.empty()) {
             table::Cells read;
             for (const auto& event : events) read.push_back(engine::eventLine(event));
