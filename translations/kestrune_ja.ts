@@ -489,11 +489,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>完済までに回収できません</translation>
     </message>
     <message>
-        <source>kTotalNames</source>
-        <comment>Payments	Total paid	Total interest	Total prepaid	Fees	Pay off	Interest saved	Payments saved	Net saving	Break-even payment	Unpaid interest paid</comment>
-        <translation>返済回数	支払総額	利息総額	繰上返済総額	手数料	完済日	軽減利息	短縮回数	正味の軽減額	損益分岐の回	支払った未払利息</translation>
-    </message>
-    <message>
         <source>kBadTermLine</source>
         <comment>line %1 sets a lender term wrongly: %2</comment>
         <translation>%1 行目の条件の指定が正しくありません: %2</translation>
@@ -537,6 +532,26 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kTermErrors</source>
         <comment>	The bonus part is more than half the principal	No payment falls in the bonus months	The five-year and 125 % rules are for a flat payment only	The bonus part takes an amount above 0 and two different months</comment>
         <translation>	ボーナス返済分が元金の半分を超えています	ボーナス月に返済がありません	5年ルール・125%ルールは元利均等返済だけに使えます	ボーナス返済分には0より大きい金額と異なる2つの月を指定します</translation>
+    </message>
+    <message>
+        <source>kTotalNames</source>
+        <comment>Payments	Total paid	Total interest	Total prepaid	Fees	Pay off	Interest saved	Payments saved	Net saving	Break-even payment	Unpaid interest paid	Deduction	Net cost	Deduction lost</comment>
+        <translation>返済回数	支払総額	利息総額	繰上返済総額	手数料	完済日	軽減利息	短縮回数	正味の軽減額	損益分岐の回	支払った未払利息	住宅ローン控除	実質負担額	減る控除額</translation>
+    </message>
+    <message>
+        <source>kDeductionTitle</source>
+        <comment>&amp;Housing-loan tax deduction</comment>
+        <translation>住宅ローン控除(&amp;H)</translation>
+    </message>
+    <message>
+        <source>kDeductionFields</source>
+        <comment>Rate	Years	Cap on the balance	First year	Limit	the borrowing year	the taxes paid, if any</comment>
+        <translation>控除率	控除期間（年）	借入限度額	入居年	控除上限	借入の年	納める税額（任意）</translation>
+    </message>
+    <message>
+        <source>kDeductionNotes</source>
+        <comment>No deduction: the term is shorter than ten years	No deduction from %1: the term is now shorter than ten years	The deduction&apos;s rate, cap or limit can&apos;t be read</comment>
+        <translation>控除なし: 返済期間が10年未満です	%1 年から控除なし: 返済期間が10年未満になりました	控除率、借入限度額または控除上限が読めません</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "engine/calculation.h"
 #include "form/amountfields.h"
 #include "planner/cellsmodel.h"
+#include "planner/deductionbox.h"
 #include "planner/savefile.h"
 #include "planner/termsbox.h"
 #include "runtime/numbers.h"
@@ -88,6 +89,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
 
     Terms = new TermsBox(this);
     connect(Terms, &TermsBox::changed, this, &PlanWindow::recalculate);
+    Deduction = new DeductionBox(this);
+    connect(Deduction, &DeductionBox::changed, this, &PlanWindow::recalculate);
     Events = new QTableWidget(0, 5, this);
     Events->setObjectName("Events");
     Events->setAccessibleName(text(strings::kEventsTitle));
@@ -178,9 +181,13 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     auto* left = new QVBoxLayout;
     left->addWidget(Terms);
     left->addLayout(eventsLine, 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(Deduction);
+    right->addLayout(m_figures);
+    right->addStretch();
     auto* top = new QHBoxLayout;
     top->addLayout(left, 3);
-    top->addLayout(m_figures, 2);
+    top->addLayout(right, 2);
     auto* bottom = new QHBoxLayout;
     for (QPushButton* b : {CopyButton, CsvButton, PrintButton, PdfButton}) bottom->addWidget(b);
     bottom->addStretch();
@@ -252,14 +259,23 @@ void PlanWindow::recalculate() {
                             qs(runtime::Str(terms.paymentCount))));
     auto events = readEvents(terms.paymentCount);
     const std::optional<engine::LenderTerms> lender = Terms->terms();
+    const DeductionBox::Reading deduction = Deduction->deduction();
+    const QStringList notes = strings::fields(strings::kDeductionNotes, '\t');
     engine::PlanOutcome outcome;
-    if (lender) {
-        outcome = engine::evaluatePlan(form, events, *lender);
+    if (lender && deduction.readable) {
+        outcome = engine::evaluatePlan(form, events, *lender, deduction.deduction);
         Terms->showFit(outcome.base.termsFit);
+        Deduction->showNote(outcome.deductionTooShort   ? notes.value(0)
+                            : outcome.deductionEndsFrom ? notes.value(1).arg(*outcome.deductionEndsFrom)
+                                                        : QString());
     } else {
+        // Terms or a deduction that can't be read refuse the plan, and say why.
         outcome.refusal = engine::Refusal::BadTerms;
-        Terms->showUnreadableBonus();
+        if (lender) Terms->showFit(engine::TermsFit::Fits);
+        if (!lender) Terms->showUnreadableBonus();
+        Deduction->showNote(deduction.readable ? QString() : notes.value(2));
     }
+    m_deduction = deduction.deduction.has_value();
     if (outcome.refusedBy) {
         m_reading = true;
         markRow(m_eventRows[*outcome.refusedBy], strings::fields(strings::kEventErrors, '\t').last());
@@ -284,12 +300,16 @@ void PlanWindow::recalculate() {
     m_schedule->setRows(shownHeadings, m_payments.size(), [this](std::size_t row) {
         return table::planRowText(m_payments[row], m_era, m_payDay, m_columns);
     });
-    m_figures->setRowVisible(static_cast<int>(Figures.size()) - 1, m_columns.unpaid);
+    const int unpaid = static_cast<int>(Figures.size()) - 4;
+    m_figures->setRowVisible(unpaid, m_columns.unpaid);
+    for (int row = unpaid + 1; row < static_cast<int>(Figures.size()); ++row)
+        m_figures->setRowVisible(row, m_deduction);
     auto years = std::make_shared<std::vector<table::Cells>>(table::yearRowTexts(
         outcome.refusal == engine::Refusal::None ? outcome.years : std::vector<engine::YearFigures>{}, era, m_payDay,
-        shell::MainWindow::payoffWords().eraNames, false));
-    m_years->setRows(strings::fields(strings::kYearHeader, '\t'), years->size(),
-                     [years](std::size_t row) { return (*years)[row]; });
+        shell::MainWindow::payoffWords().eraNames, m_deduction));
+    QStringList yearHeadings = strings::fields(strings::kYearHeader, '\t');
+    if (m_deduction) yearHeadings.insert(yearHeadings.size() - 1, text(strings::kDeductionHeading));
+    m_years->setRows(yearHeadings, years->size(), [years](std::size_t row) { return (*years)[row]; });
     showFigures(outcome, form.era);
     drawChart(m_payments,
               outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
@@ -319,7 +339,10 @@ void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
                               text(strings::kYearsMonths).arg(saved).arg(saved / 12).arg(saved % 12),
                               amount(savings.netSaving),
                               breakEven,
-                              amount(totals.unpaidPaid)};
+                              amount(totals.unpaidPaid),
+                              amount(totals.deduction),
+                              amount(totals.netCost),
+                              amount(savings.deductionLost)};
     for (std::size_t i = 0; i < Figures.size(); ++i) Figures[i]->setText(values[i]);
 }
 
@@ -431,6 +454,7 @@ void PlanWindow::copyEvents() const {
     QStringList lines;
     if (const auto terms = Terms->terms())
         for (const std::string& line : engine::termLines(*terms)) lines << qs(line);
+    if (const auto deduction = Deduction->deduction().deduction) lines << qs(engine::deductionLine(*deduction));
     QList<int> rows;
     for (const QModelIndex& index : Events->selectionModel()->selectedIndexes())
         if (!rows.contains(index.row())) rows.append(index.row());
@@ -460,9 +484,11 @@ void PlanWindow::pasteEvents() {
     }
     // Terms set the controls, events add rows; a term set wrongly refuses the whole text.
     engine::LenderTerms terms = Terms->terms().value_or(engine::LenderTerms{});
+    std::optional<engine::TaxDeduction> deduction = Deduction->deduction().deduction;
     std::vector<std::string> eventLines;
     for (std::size_t i = 0; i < read.lines.size(); ++i) {
-        const engine::TermReading term = engine::readTerm(read.lines[i], terms);
+        engine::TermReading term = engine::readDeduction(read.lines[i], deduction);
+        if (!term.isTerm) term = engine::readTerm(read.lines[i], terms);
         if (!term.error.empty()) {
             warn(this, text(strings::kPasteRefused)
                            .arg(text(strings::kBadTermLine).arg(i + 1).arg(qs(runtime::excerpt(read.lines[i])))));
@@ -471,6 +497,7 @@ void PlanWindow::pasteEvents() {
         if (!term.isTerm) eventLines.push_back(read.lines[i]);
     }
     Terms->setTerms(terms);
+    Deduction->setDeduction(deduction);
     m_reading = true;
     for (const std::string& line : eventLines) {
         QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
@@ -522,7 +549,7 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     if (const QString terms = Terms->described(); !terms.isEmpty())
         content.terms = text(strings::kTermsTitle) + ": " + terms;
     for (std::size_t i = 0; i < Figures.size(); ++i)
-        if (i + 1 < Figures.size() || m_columns.unpaid)
+        if (m_figures->isRowVisible(static_cast<int>(i)))
             content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
     // The chart at the report's size, whatever size the view has (or had, where it was never shown).
     content.chart = QImage(1800, 1000, QImage::Format_RGB32);

@@ -25,6 +25,7 @@ class MainWindow;
 namespace planner {
 
 class CellsModel;
+class DeductionBox;
 class TermsBox;
 
 class PlanWindow : public QWidget {
@@ -47,11 +48,14 @@ public:
     bool exportPdf(const QString& path);
 
     TermsBox* Terms;
+    DeductionBox* Deduction;
     QTableWidget* Events;
     QTableView* Schedule;
     QTableView* Years;
     QChartView* Chart;
-    std::vector<QLabel*> Figures; // totals, then savings, then the unpaid interest paid under reviews
+    // Totals, then savings, then the unpaid interest paid under reviews, then the deduction, the
+    // net cost and the deduction lost where there is a deduction.
+    std::vector<QLabel*> Figures;
     QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
 
 protected:
@@ -76,6 +80,7 @@ private:
     QFormLayout* m_figures;
     std::vector<engine::Payment> m_payments;
     table::PlanColumns m_columns; // as the terms have them
+    bool m_deduction = false;     // a deduction is set
     std::vector<int> m_eventRows; // the list's row of each event read
     int m_era = 0;                // of the form, for the date column
     std::int64_t m_payDay = 0;    // as the form reads it

@@ -140,7 +140,8 @@ inline constexpr Constant kTabs = KESTRUNE_TEXT("PlanWindow", "kTabs", "Schedule
 inline constexpr Constant kTotalNames =
     KESTRUNE_TEXT("PlanWindow", "kTotalNames",
                   "Payments\tTotal paid\tTotal interest\tTotal prepaid\tFees\tPay off\tInterest saved\tPayments "
-                  "saved\tNet saving\tBreak-even payment\tUnpaid interest paid");
+                  "saved\tNet saving\tBreak-even payment\tUnpaid interest paid\tDeduction\tNet cost\tDeduction "
+                  "lost");
 inline constexpr Constant kYearsMonths = KESTRUNE_TEXT("PlanWindow", "kYearsMonths", "%1 (%2 years %3 months)");
 // Why a plan has no break-even payment.
 inline constexpr Constant kNoFees = KESTRUNE_TEXT("PlanWindow", "kNoFees", "no fees");
@@ -175,6 +176,16 @@ inline constexpr Constant kRoundDown = KESTRUNE_TEXT("PlanWindow", "kRoundDown",
 inline constexpr Constant kBonusPart = KESTRUNE_TEXT("PlanWindow", "kBonusPart", "&Bonus part:");
 inline constexpr Constant kBonusMonths = KESTRUNE_TEXT("PlanWindow", "kBonusMonths", "Bonus months");
 inline constexpr Constant kReview = KESTRUNE_TEXT("PlanWindow", "kReview", "&Five-year and 125 % rules");
+// The housing-loan tax deduction beside the figures.
+inline constexpr Constant kDeductionTitle =
+    KESTRUNE_TEXT("PlanWindow", "kDeductionTitle", "&Housing-loan tax deduction");
+inline constexpr Constant kDeductionFields =
+    KESTRUNE_TEXT("PlanWindow", "kDeductionFields",
+                  "Rate\tYears\tCap on the balance\tFirst year\tLimit\tthe borrowing year\tthe taxes paid, if any");
+inline constexpr Constant kDeductionNotes =
+    KESTRUNE_TEXT("PlanWindow", "kDeductionNotes",
+                  "No deduction: the term is shorter than ten years\tNo deduction from %1: the term is now shorter "
+                  "than ten years\tThe deduction's rate, cap or limit can't be read");
 // Why the terms are refused, by the engine's reason; the last where the bonus part can't be read.
 inline constexpr Constant kTermErrors =
     KESTRUNE_TEXT("PlanWindow", "kTermErrors",
@@ -234,6 +245,8 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kTermsTitle,     kInterestLabel,
                                           kInterestRules,  kRoundDown,
                                           kBonusPart,      kBonusMonths,
-                                          kReview,         kTermErrors};
+                                          kReview,         kTermErrors,
+                                          kDeductionTitle, kDeductionFields,
+                                          kDeductionNotes};
 
 } // namespace strings

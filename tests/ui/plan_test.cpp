@@ -3,6 +3,7 @@
 // the schedule, totals and chart that follow, and the schedule as the tool prints it.
 #include "uitest.h"
 
+#include "planner/deductionbox.h"
 #include "planner/planwindow.h"
 #include "planner/termsbox.h"
 #include "strings/lookup.h"
@@ -222,6 +223,27 @@ TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     EXPECT_EQ(plan->Events->item(0, 2)->text(), "10");
 }
 
+TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
+    paste("deduction 0.7 13 30,000,000\nprepay 12 25,000,000\n");
+    EXPECT_TRUE(plan->Deduction->isChecked());
+    EXPECT_EQ(plan->Deduction->Note->text(), "No deduction from 2021: the term is now shorter than ten years");
+    // The figures the tool prints for the same plan: deduction, net cost, deduction lost.
+    EXPECT_EQ((QStringList{figure(11), figure(12), figure(13)}), (QStringList{"206,500", "366,044", "2,094,000"}));
+    EXPECT_EQ(figure(8), "5,899,594") << "the net saving of the net costs";
+    EXPECT_EQ(plan->Years->model()->headerData(8, Qt::Horizontal).toString(), "Deduction");
+    EXPECT_EQ(plan->Years->model()->index(0, 8).data().toString(), "206,500") << "2020";
+    plan->Events->selectAll();
+    QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000\nprepay 12 25,000,000\n");
+    plan->Deduction->Rate->setText("x");
+    emit plan->Deduction->Rate->editingFinished();
+    EXPECT_EQ(plan->Deduction->Note->text(), "The deduction's rate, cap or limit can't be read");
+    EXPECT_EQ(figure(0), "") << "no figures of another plan";
+    plan->Deduction->setChecked(false);
+    EXPECT_TRUE(plan->Figures[11]->isHidden());
+    EXPECT_EQ(plan->Years->model()->columnCount(), 9);
+}
+
 // What a failed save tells: the message of the window, then closed; empty where none.
 QString message(QWidget* window) {
     auto* box = window->findChild<QMessageBox*>();
@@ -266,7 +288,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
                 tool("--interest monthly --rounding down --bonus 3000000 --review --fee 1:0"));
-    EXPECT_FALSE(plan->Figures.back()->isHidden()) << "the unpaid interest paid";
+    EXPECT_FALSE(plan->Figures[10]->isHidden()) << "the unpaid interest paid";
     QTemporaryDir dir;
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     // Its lines joined, as the terms may wrap.
@@ -275,7 +297,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     const std::string parts[] = {
         " Lender terms: by months, as lenders count it; Round amounts down to the yen; Bonus part: "
         "3,000,000 (6, 12); Five-year and 125 % rules ",
-        " Unpaid interest paid " + plan->Figures.back()->text().toStdString() + " ",
+        " Unpaid interest paid " + plan->Figures[10]->text().toStdString() + " ",
         " No. Repayment Amount Principal Interest Bonus Prepaid Unpaid interest Balance "};
     for (const std::string& part : parts) EXPECT_NE(report.find(part), std::string::npos) << part << "\nin\n" << report;
     plan->Events->selectAll();
@@ -299,7 +321,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     EXPECT_EQ(terms->Review->toolTip(), terms->Problem->text());
     QTest::mouseClick(terms->Review, Qt::LeftButton);
     EXPECT_TRUE(terms->Problem->isHidden());
-    EXPECT_TRUE(plan->Figures.back()->isHidden()) << "no reviews, no unpaid interest";
+    EXPECT_TRUE(plan->Figures[10]->isHidden()) << "no reviews, no unpaid interest";
     paste("review\nbonus 1 2\n");
     EXPECT_EQ(message(plan), "The pasted text was not added: line 2 sets a lender term wrongly: bonus 1 2");
     EXPECT_FALSE(terms->Review->isChecked());
