@@ -45,6 +45,10 @@ DeductionBox::DeductionBox(QWidget* parent) : QGroupBox(text(strings::kDeduction
     FromYear->setSpecialValueText(names.value(5)); // its minimum: the borrowing year
     FromYear->setValue(FromYear->minimum());
     Limit = field(QString(), names.value(4));
+    // Room for the amounts they hold; a rate takes little.
+    for (QLineEdit* amount : {Cap, Limit})
+        amount->setMinimumWidth(amount->fontMetrics().horizontalAdvance("999,999,999") + 16);
+    Rate->setMaximumWidth(Rate->fontMetrics().horizontalAdvance("0.000") + 24);
     Limit->setPlaceholderText(names.value(6));
     Note = new QLabel(this);
     Note->setObjectName("DeductionNote");
