@@ -4,29 +4,12 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
-#include <charconv>
 #include <cmath>
-#include <sstream>
 
 namespace engine {
-namespace {
-
-// A whole token as a number, commas allowed; none where any of it is not.
-std::optional<double> number(const std::string& token) {
-    const std::string plain = runtime::withoutCommas(token);
-    double value = 0.0;
-    const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (plain.empty() || error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value))
-        return std::nullopt;
-    return value;
-}
-
-} // namespace
 
 TermReading readDeduction(std::string_view line, std::optional<TaxDeduction>& deduction) {
-    std::vector<std::string> words;
-    std::istringstream in{std::string(line)};
-    for (std::string word; in >> word;) words.push_back(word);
+    const std::vector<std::string> words = runtime::words(line);
     if (words.empty() || words[0] != "deduction") return {};
     const TermReading wrong{true, "deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" an "
                                   "amount, all at least 0: " +
@@ -36,7 +19,7 @@ TermReading readDeduction(std::string_view line, std::optional<TaxDeduction>& de
     // Rate, years and cap in this order, each as far as given.
     for (int field = 0; field < 3 && next < words.size() && words[next] != "from" && words[next] != "limit";
          ++field, ++next) {
-        const auto value = number(words[next]);
+        const auto value = runtime::numberWord(words[next]);
         if (!value || *value < 0 || *value > 9'007'199'254'740'992.0) return wrong;
         if (field == 0) read.ratePercent = *value;
         if (field == 1 && (*value != std::trunc(*value) || *value > 100)) return wrong;
@@ -44,7 +27,7 @@ TermReading readDeduction(std::string_view line, std::optional<TaxDeduction>& de
         if (field == 2) read.cap = *value;
     }
     for (; next + 1 < words.size(); next += 2) {
-        const auto value = number(words[next + 1]);
+        const auto value = runtime::numberWord(words[next + 1]);
         if (!value || *value < 0 || *value > 9'007'199'254'740'992.0) return wrong;
         if (words[next] == "from" && *value == std::trunc(*value) && *value <= 9999)
             read.fromYear = static_cast<std::int64_t>(*value);

@@ -6,7 +6,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <sstream>
 
 namespace engine {
 namespace {
@@ -123,9 +122,7 @@ std::string termsProblem(TermsFit fit, const LenderTerms& terms) {
 }
 
 TermReading readTerm(std::string_view line, LenderTerms& terms) {
-    std::vector<std::string> words;
-    std::istringstream in{std::string(line)};
-    for (std::string word; in >> word;) words.push_back(word);
+    const std::vector<std::string> words = runtime::words(line);
     if (!words.empty() && words[0] == "review") {
         if (words.size() != 1) return {true, "review takes no value: " + runtime::excerpt(line)};
         terms.review = true;
@@ -134,16 +131,14 @@ TermReading readTerm(std::string_view line, LenderTerms& terms) {
     if (!words.empty() && words[0] == "bonus") {
         const std::string why = "bonus takes an amount above 0 and two different months from 1 to 12: ";
         BonusPart bonus;
-        const std::string plain = words.size() > 1 ? runtime::withoutCommas(words[1]) : "";
-        const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), bonus.amount);
-        bool good = (words.size() == 2 || words.size() == 4) && !plain.empty() && error == std::errc{} &&
-                    end == plain.data() + plain.size() && bonus.amount > 0 &&
-                    runtime::wideVal(plain) <= 9'007'199'254'740'992.0L;
+        const auto amount = words.size() > 1 ? runtime::numberWord(words[1]) : std::nullopt;
+        bool good = (words.size() == 2 || words.size() == 4) && amount && *amount > 0 &&
+                    runtime::wideVal(runtime::withoutCommas(words[1])) <= 9'007'199'254'740'992.0L;
+        if (good) bonus.amount = *amount;
         for (std::size_t i = 0; good && words.size() == 4 && i < 2; ++i) {
-            const std::string& word = words[2 + i];
-            const auto [last, bad] = std::from_chars(word.data(), word.data() + word.size(), bonus.months[i]);
-            good = bad == std::errc{} && last == word.data() + word.size() && bonus.months[i] >= 1 &&
-                   bonus.months[i] <= 12;
+            const auto month = runtime::wholeNumberWord(words[2 + i]);
+            good = month && *month >= 1 && *month <= 12;
+            if (good) bonus.months[i] = *month;
         }
         if (!good || bonus.months[0] == bonus.months[1]) return {true, why + runtime::excerpt(line)};
         terms.bonus = bonus;

@@ -5,36 +5,12 @@
 #include "runtime/text.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <sstream>
 
 namespace engine {
-namespace {
-
-// A whole token as a number, commas allowed as thousands separators; none where any of it is not.
-std::optional<double> number(std::string_view token) {
-    const std::string plain = runtime::withoutCommas(token);
-    double value = 0.0;
-    const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (plain.empty() || error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value))
-        return std::nullopt;
-    return value;
-}
-
-std::optional<std::int64_t> wholeNumber(std::string_view token) {
-    std::int64_t value = 0;
-    const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), value);
-    if (token.empty() || error != std::errc{} || end != token.data() + token.size()) return std::nullopt;
-    return value;
-}
-
-} // namespace
+namespace {} // namespace
 
 EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
-    std::vector<std::string> words;
-    std::istringstream in{std::string(line)};
-    for (std::string word; in >> word;) words.push_back(word);
+    const std::vector<std::string> words = runtime::words(line);
     const auto fail = [&line](EventError code) {
         const char* reasons[] = {"",
                                  "not an event",
@@ -56,10 +32,10 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
         event.kind = EventKind::Fee;
     else
         return fail(EventError::NotAnEvent);
-    const auto payment = wholeNumber(words[1]);
+    const auto payment = runtime::wholeNumberWord(words[1]);
     if (!payment || *payment < 1 || *payment > paymentCount) return fail(EventError::PaymentOutside);
     event.payment = *payment;
-    const auto value = number(words[2]);
+    const auto value = runtime::numberWord(words[2]);
     if (!value) return fail(EventError::NotANumber);
     if (*value < 0) return fail(EventError::NegativeAmount);
     if (event.kind != EventKind::RateChange && runtime::wideVal(runtime::withoutCommas(words[2])) > kMaxExactAmount)
@@ -70,7 +46,7 @@ EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     if (event.kind == EventKind::Prepay && next < words.size() && (words[next] == "shorten" || words[next] == "reduce"))
         event.mode = words[next++] == "reduce" ? PrepayMode::Reduce : PrepayMode::Shorten;
     if (event.kind == EventKind::Prepay && next + 1 < words.size() && words[next] == "every") {
-        const auto every = wholeNumber(words[next + 1]);
+        const auto every = runtime::wholeNumberWord(words[next + 1]);
         if (!every || *every < 1 || *every > paymentCount) return fail(EventError::BadEvery);
         event.every = *every;
         next += 2;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runtime/text.h"
 
+#include <charconv>
+#include <cmath>
+#include <sstream>
+
 namespace runtime {
 
 std::vector<std::string> Split(std::string_view text, std::string_view separator) {
@@ -62,6 +66,29 @@ std::string excerpt(std::string_view text, std::size_t length) {
         }
     }
     return i < text.size() ? quoted + "..." : quoted;
+}
+
+std::vector<std::string> words(std::string_view line) {
+    std::vector<std::string> read;
+    std::istringstream in{std::string(line)};
+    for (std::string word; in >> word;) read.push_back(word);
+    return read;
+}
+
+std::optional<double> numberWord(std::string_view word) {
+    const std::string plain = withoutCommas(word);
+    double value = 0.0;
+    const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    if (plain.empty() || error != std::errc{} || end != plain.data() + plain.size() || !std::isfinite(value))
+        return std::nullopt;
+    return value;
+}
+
+std::optional<std::int64_t> wholeNumberWord(std::string_view word) {
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (word.empty() || error != std::errc{} || end != word.data() + word.size()) return std::nullopt;
+    return value;
 }
 
 } // namespace runtime

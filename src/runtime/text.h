@@ -2,6 +2,8 @@
 #pragma once
 // The text operations the program is written against. Fields count from 1.
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +18,13 @@ std::string NthField(std::string_view text, std::string_view separator, std::siz
 
 // The text with every comma taken out: how amounts with thousands separators are read.
 std::string withoutCommas(std::string_view text);
+
+// The words of a line of a plan's text, apart by blanks or tabs.
+std::vector<std::string> words(std::string_view line);
+// A whole word as a finite number (commas allowed as thousands separators), or as a whole number;
+// none where any of it is not.
+std::optional<double> numberWord(std::string_view word);
+std::optional<std::int64_t> wholeNumberWord(std::string_view word);
 
 // The head of a text a user gave, safe to quote in a message: at most `length` characters,
 // "..." after a cut, and every control character (a terminal's escape among them) or byte that is

@@ -13,7 +13,6 @@
 #include <array>
 #include <cctype>
 #include <cerrno>
-#include <charconv>
 #include <cstring>
 #include <fstream>
 #include <map>
@@ -102,13 +101,6 @@ const std::vector<std::string_view> kEras{"western", "showa", "heisei", "reiwa"}
 const std::vector<std::string_view> kDelays{"next", "2after", "3after"};
 const std::vector<std::string_view> kMethods{"flat", "equal"};
 const std::vector<std::string_view> kFormats{"table", "tsv", "csv", "json"};
-
-std::optional<std::int64_t> wholeNumber(const std::string& text) {
-    std::int64_t n = 0;
-    const auto [ptr, error] = std::from_chars(text.data(), text.data() + text.size(), n);
-    if (error != std::errc{} || ptr != text.data() + text.size()) return std::nullopt;
-    return n;
-}
 
 table::Cells headerRow(table::PlanColumns columns) {
     return table::planHeadings(runtime::Split(strings::kHeader.defaultText, "\t"),
@@ -323,7 +315,7 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         } else if (option == "--first") {
             listed.first = runtime::intVal(value);
         } else {
-            const auto last = wholeNumber(value);
+            const auto last = runtime::wholeNumberWord(value);
             if (!last) return usageError(err, "--last takes a whole number: " + runtime::excerpt(value));
             listed.last = *last < 0 ? -1 : *last;
         }
