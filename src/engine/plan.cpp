@@ -7,8 +7,6 @@
 #include <algorithm>
 
 namespace engine {
-namespace {} // namespace
-
 EventReading readEvent(std::string_view line, std::int64_t paymentCount) {
     const std::vector<std::string> words = runtime::words(line);
     const auto fail = [&line](EventError code) {
