@@ -53,8 +53,27 @@ public:
         if (pick(3) == 0) fields += apart + std::string(every) + (pick(6) ? std::to_string(1 + pick(60)) : word());
         return fields;
     }
+    // A bonus part's amount and months, or a deduction's parts, `apart` between them.
+    std::string bonus(const char* apart) {
+        return number() + apart + std::to_string(pick(14)) + apart + std::to_string(pick(14));
+    }
+    std::string deduction(const char* apart, const char* from, const char* limit) {
+        std::string text;
+        for (const char* part : {"", apart, apart}) text += part + (pick(3) ? number() : std::string());
+        if (pick(2)) text += from + std::to_string(pick(2) ? 1990 + pick(60) : pick(100'000));
+        if (pick(2)) text += limit + number();
+        return text;
+    }
     std::string eventLine() {
         if (pick(50) == 0) return word() + " " + word() + " " + word();
+        // Now and then a term line instead of an event.
+        switch (pick(12)) {
+        case 0: return pick(2) ? "interest monthly" : "rounding " + word();
+        case 1: return pick(3) ? "review" : "review " + word();
+        case 2: return "bonus " + bonus(" ");
+        case 3: return "deduction " + deduction(" ", " from ", " limit ");
+        default: break;
+        }
         static const char* const kKinds[] = {"prepay", "rate", "fee"};
         const std::size_t kind = pick(3);
         return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
@@ -64,25 +83,31 @@ public:
             {"--era", {"western", "showa", "heisei", "reiwa"}},
             {"--delay", {"next", "2after", "3after"}},
             {"--method", {"flat", "equal"}},
-            {"--format", {"table", "tsv", "csv", "json"}}};
+            {"--format", {"table", "tsv", "csv", "json"}},
+            {"--interest", {"daily", "monthly"}},
+            {"--rounding", {"nearest", "down"}}};
         if (pick(20) == 0) return word();
         if (const auto words = kChoices.find(option); words != kChoices.end())
             return words->second[pick(words->second.size())];
         if (option == "--prepay") return payment() + ":" + number() + prepayment(":", "every=");
         if (option == "--rate-change" || option == "--fee") return payment() + ":" + number();
+        if (option == "--bonus") return pick(2) ? number() : bonus(":");
+        if (option == "--deduction") return deduction(":", ":", ":");
         return number();
     }
     std::vector<std::string> options() {
         static const std::vector<std::string> kOptions =
             split("--principal --rate --first --last --era --year --month --day --pay-day --delay --method --format "
-                  "--prepay --rate-change --fee --prepay --totals --by-year",
+                  "--prepay --rate-change --fee --prepay --totals --by-year --interest --rounding --bonus --review "
+                  "--deduction --deduction",
                   ' ');
         // Loans short enough to walk quickly, with now and then the longest.
         m_times = pick(20) == 0 ? 100'000 : 1 + pick(600);
         std::vector<std::string> args{"--times", std::to_string(m_times)};
         for (std::size_t n = pick(8); n > 0; --n) {
             const std::string option = kOptions[pick(kOptions.size())];
-            if (option == "--totals" || option == "--by-year")
+            if (option == "--totals" || option == "--by-year" || option == "--review" ||
+                (option == "--deduction" && pick(2)))
                 args.push_back(pick(50) ? option : pick(2) ? "--help" : word());
             else if (pick(2))
                 args.push_back(option + "=" + value(option));
