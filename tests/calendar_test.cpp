@@ -111,7 +111,8 @@ TEST(LoanDates, PayoffStatement) {
         {{kReiwa, 2, 3, 15, 8, kNext}, 144, "Reiwa  14 / 3 / 8 "},
         {{kHeisei, 30, 3, 15, 8, kNext}, 12, "Heisei  31 / 3 / 8 "},
         {{kWestern, 2023, 12, 31, 31, kNext}, 2, "2024 / 2 / 29 "},
-        {{kWestern, 2020, 3, 15, 8, kNext}, -2, "2020 / 1 / 8 "}, // before the first payment: the month carries
+        {{kWestern, 2022, 12, 15, 8, kNext}, 12, "2023 / 12 / 8 "}, // from January: December of the same year
+        {{kWestern, 2020, 3, 15, 8, kNext}, -2, "2020 / 1 / 8 "},   // before the first payment: the month carries
     };
     for (const auto& c : cases) EXPECT_EQ(payoffText(loanDates(c.line, c.count).payoff, c.line.era, {}), c.text);
     const PayoffWords japanese{{"", "昭和", "平成", "令和"}, "年", "月", "日"};

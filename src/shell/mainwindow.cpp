@@ -386,7 +386,6 @@ void MainWindow::CulcButton_Action() {
     record = calc->record;
     setList(table::rowTexts(calc->payments, calc->terms.dateLine.era, calc->terms.dateLine.payDay));
     if (allSelected) {
-        SelectAllButton->setValue(true);
         selectAllRows();
     } else {
         optSelectBtnState();

@@ -102,6 +102,60 @@ void checkEveryTextShowsWhole(const char* language) {
     closeAllWindows();
 }
 
+// Every control of a new window where the design puts it, each line a control (by its name, a
+// label by its text) and its left, top, width and height, as the default font of the offscreen
+// platform lays them out; controls widen for their text and move right for the one before them.
+TEST(Fit, EveryControlStandsWhereTheDesignPutsIt) {
+    auto* w = new MainWindow;
+    showActive(w);
+    if (w->GankinField->fontMetrics().horizontalAdvance("999,999,999,999") != 103)
+        GTEST_SKIP() << "another default font than the one these places were read with";
+    std::string all;
+    for (const QWidget* c : w->centralWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const auto* label = qobject_cast<const QLabel*>(c);
+        const QRect r = c->geometry();
+        all += (c->objectName().isEmpty() && label ? label->text() : c->objectName()).toStdString() + " " +
+               std::to_string(r.x()) + " " + std::to_string(r.y()) + " " + std::to_string(r.width()) + " " +
+               std::to_string(r.height()) + "\n";
+    }
+    EXPECT_EQ(all, std::string("Rectangle1 82 114 48 22\n"
+                               "Principal: 20 23 56 20\n"
+                               "Rate: 190 23 38 20\n"
+                               "Times: 281 23 42 20\n"
+                               "PayStart: 324 55 62 20\n"
+                               "/ 214 55 15 20\n"
+                               "/ 257 55 15 20\n"
+                               " 299 55 15 20\n"
+                               "Selection: 20 116 60 20\n"
+                               "GankinField 77 21 110 22\n"
+                               "Nenriritsu 229 21 49 22\n"
+                               "Kaisu 327 21 53 22\n"
+                               "StartY 171 53 42 22\n"
+                               "StartM 231 53 25 22\n"
+                               "StartD 273 53 25 22\n"
+                               "KindPopup 291 85 123 20\n"
+                               "CulcButton 481 82 80 58\n"
+                               "ListBox1 20 146 541 440\n"
+                               "RisokuTotal 192 114 113 22\n"
+                               "SelectAllButton 312 114 106 22\n"
+                               "RekiKind 89 53 80 22\n"
+                               "Interest: 133 116 52 20\n"
+                               "BevelNewNext 20 598 140 22\n"
+                               "BevelDispAll 172 598 140 22\n"
+                               "BevelDelBelow 324 598 140 22\n"
+                               "First: 388 23 30 20\n"
+                               "Shokai 419 21 53 22\n"
+                               "Pay off: 20 85 59 20\n"
+                               "Kansai 89 85 140 20\n"
+                               "Borrow: 20 55 64 20\n"
+                               "th 497 55 15 20\n"
+                               "StartDX 473 53 25 22\n"
+                               "HelpBtn 479 21 80 22\n"
+                               "DelayPop 390 53 80 22\n"
+                               "Method 0 0 100 30\n"));
+    closeAllWindows();
+}
+
 TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInEnglish) { checkEveryTextShowsWhole("English"); }
 
 TEST(Fit, EveryFieldLabelAndCellShowsItsWholeTextInALargeFont) {

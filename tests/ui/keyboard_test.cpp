@@ -147,6 +147,16 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         w->showPlan();
         expectNamedForAssistiveTechnology(w->findChild<planner::PlanWindow*>(), language + " Plan window");
         EXPECT_EQ(w->menuBar()->actions().at(0)->text(), japanese ? "ファイル(&F)" : "&File");
+        // Each field and figure is named by its own label.
+        QStringList names;
+        for (const QWidget* c :
+             {static_cast<QWidget*>(w->GankinField), static_cast<QWidget*>(w->Nenriritsu),
+              static_cast<QWidget*>(w->Kaisu), static_cast<QWidget*>(w->Shokai), static_cast<QWidget*>(w->RisokuTotal),
+              static_cast<QWidget*>(w->SelNum), static_cast<QWidget*>(w->Kansai)})
+            names << c->accessibleName();
+        if (!japanese) {
+            EXPECT_EQ(names.join('|'), "Principal|Rate|Times|First|Interest|Selection|Pay off");
+        }
         closeAllWindows();
     }
 }

@@ -232,9 +232,11 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     EXPECT_EQ(figure(8), "5,899,594") << "the net saving of the net costs";
     EXPECT_EQ(plan->Years->model()->headerData(8, Qt::Horizontal).toString(), "Deduction");
     EXPECT_EQ(plan->Years->model()->index(0, 8).data().toString(), "206,500") << "2020";
+    plan->Events->item(0, 2)->setText("1,000,000");
+    EXPECT_EQ(figure(0), "402") << "a cell edited after a paste";
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000\nprepay 12 25,000,000\n");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000\nprepay 12 1,000,000\n");
     plan->Deduction->Rate->setText("x");
     emit plan->Deduction->Rate->editingFinished();
     EXPECT_EQ(plan->Deduction->Note->text(), "The deduction's rate, cap or limit can't be read");
