@@ -86,6 +86,7 @@ TEST(Plan, EventLinesReadAndWrittenBack) {
         {"fee 1 9007199254740993", "amount beyond 9,007,199,254,740,992: fee 1 9007199254740993"},
         {"prepay 1 1e300", "amount beyond 9,007,199,254,740,992: prepay 1 1e300"},
         {"prepay 1 \x1b[31mred\xff \xe2\x82\xac", "not a number: prepay 1 ?[31mred? \xe2\x82\xac"},
+        {"fee 1 \xc2\x85\xc2\xa0x", "not a number: fee 1 ??\xc2\xa0x"}, // a C1 control, then a no-break space
     };
     for (const auto& [line, why] : errors) EXPECT_EQ(readEvent(line, 420).error, why) << line;
     EXPECT_TRUE(readEvent("rate 1 1e300", 420).event) << "a rate is no amount: the walk refuses it";

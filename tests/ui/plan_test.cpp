@@ -179,7 +179,10 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     plan->Schedule->scrollTo(payment60);
     QTest::mouseClick(plan->Schedule->viewport(), Qt::LeftButton, {}, plan->Schedule->visualRect(payment60).center());
     QTest::keyClick(plan->Schedule, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith("060\t")) << "the selected row";
+    QStringList shown;
+    for (int c = 0; c < plan->Schedule->model()->columnCount(); ++c)
+        shown << payment60.siblingAtColumn(c).data().toString();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), shown.join('\t') + "\n") << "the selected row, once";
     // Every figure as the tool prints it, in the window's order.
     const std::string totals =
         tool("--prepay 60:1,000,000:every=60 --rate-change 61:0.9 --fee 61:330000 --totals --format table");
@@ -268,6 +271,8 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsEventsTotalsAndEveryPayment) {
                 tool("--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     EXPECT_EQ(message(plan), "");
+    EXPECT_NE(output("pdfimages -list " + dir.filePath("plan.pdf").toStdString()).find(" image "), std::string::npos)
+        << "the chart";
     const std::string text = pdfText(dir.filePath("plan.pdf"));
     const std::string expected[] = {
         "Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments\n",

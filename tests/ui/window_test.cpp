@@ -144,6 +144,7 @@ TEST_F(WindowTest, AboutShowsTheVersionAndHidesOnClose) {
     menuItem(w, "AppleAbout")->trigger();
     shell::AboutWindow* about = App::instance()->aboutWindow();
     EXPECT_EQ(about->verName->text(), QString("Version ") + kestrune::kVersion);
+    EXPECT_EQ(about->size(), QSize(300, 320));
     QTest::mouseClick(about->PushButton1, Qt::LeftButton);
     EXPECT_FALSE(about->isVisible());
 }
