@@ -273,6 +273,12 @@ TEST(ScheduleTool, TheTaxDeductionInTheTotalsAndYears) {
          "Deduction note\tNo deduction from 2026: the term is now shorter than ten years\nInterest saved\t2,509,304\n"
          "Deduction lost\t2,030,100\nPayments saved\t353 (29 years 5 months)\nNet saving\t479,204\n"
          "Break-even payment\tno fees\n"},
+        // 119 payments: shorter than ten years from the start, with or without events.
+        {"0 --rate 0.5 --times 119 --deduction --totals --last 0 --format tsv",
+         "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n\nPayments\t119\nPaid\t30,746,158\n"
+         "Principal\t30,000,000\nInterest\t746,158\nPrepaid\t0\nFees\t0\nDeduction\t0\nNet cost\t746,158\n"
+         "Payoff\t2035 / 2 / 8 \nDeduction note\tNo deduction: the term is shorter than ten years\nInterest saved\t0\n"
+         "Deduction lost\t0\nPayments saved\t0 (0 years 0 months)\nNet saving\t0\nBreak-even payment\tno fees\n"},
     };
     for (const auto& [options, printed] : cases) EXPECT_EQ(run(loan + options).out, printed) << options;
 }
