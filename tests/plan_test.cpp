@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Plans: events on small loans worked by hand, the lines that name events, the bounds of an events
-// text and the event that makes a plan refused. Totals, savings and years on random plans are
-// checked by the reference model (model_test.cpp).
+// Plans: the lines that name events, the bounds of an events text and the event that makes a plan
+// refused. The walk, totals, savings and years are checked by the reference model (model_test.cpp).
 #include "engine/calculation.h"
 #include "engine/plan.h"
 
@@ -13,8 +12,6 @@ using namespace engine;
 
 namespace {
 
-// 1,200 in 12 payments of equal principal at a rate so small that every interest rounds to 0:
-// each payment is 100 of principal, so the walk can be followed by hand.
 LoanForm tinyLoan() {
     LoanForm form;
     form.principal = "1200";
@@ -29,41 +26,6 @@ std::vector<PlanEvent> events(const std::vector<const char*>& lines, std::int64_
     std::vector<PlanEvent> read;
     for (const char* line : lines) read.push_back(*readEvent(line, count).event);
     return read;
-}
-
-struct WalkCase {
-    std::vector<const char*> events;
-    std::size_t payments;
-    double lastPrincipal, prepaid;
-    const char* why;
-};
-
-TEST(Plan, PrepaymentsShortenOrReduce) {
-    const WalkCase cases[] = {
-        {{"prepay 3 250"}, 10, 50, 250, "1200-300-250 = 650 left; 6 x 100 leave 50, paid with payment 10"},
-        {{"prepay 3 250 reduce"}, 12, 74, 250, "650 / 9 = 72 a payment; 8 x 72 leave 74 for payment 12"},
-        {{"prepay 2 5000"}, 2, 100, 1000, "at most the 1000 left: the loan ends with payment 2"},
-        {{"prepay 2 100 every 3"}, 9, 100, 300, "with payments 2, 5 and 8: 100 left after 8, paid with 9"},
-        {{"prepay 12 50", "fee 1 30"}, 12, 100, 0, "nothing left to prepay with the last payment"},
-    };
-    for (const auto& c : cases) {
-        const Calculation calc = calculate(tinyLoan(), {}, events(c.events));
-        ASSERT_EQ(calc.payments.size(), c.payments) << c.why;
-        EXPECT_EQ(calc.payments.back().principal, c.lastPrincipal) << c.why;
-        EXPECT_EQ(calc.payments.back().balance, 0.0) << c.why;
-        EXPECT_EQ(planTotals(calc.payments).prepaid, c.prepaid) << c.why;
-    }
-}
-
-TEST(Plan, TheBreakEvenPaymentIsTheOneWhoseSavingMeetsTheFees) {
-    LoanForm form = tinyLoan();
-    form.principal = "1,200,000";
-    form.rate = "1.5";
-    const auto base = calculate(form).payments, prepaid = calculate(form, {}, events({"prepay 1 600000"})).payments;
-    // The prepayment saves interest from payment 2 on: a fee of exactly that saving is earned back with it.
-    const double saved = base[1].interest - prepaid[1].interest;
-    const auto plan = events({"prepay 1 600000", ("fee 1 " + std::to_string(static_cast<long>(saved))).c_str()});
-    EXPECT_EQ(evaluatePlan(form, plan).savings.breakEven, 2);
 }
 
 TEST(Plan, EventLinesReadAndWrittenBack) {
