@@ -47,13 +47,12 @@ public:
     }
     // A payment of the loan, now and then one past it.
     std::string payment() { return std::to_string(1 + pick(pick(30) ? m_times : m_times + 10)); }
-    // A prepayment's fields after its amount, with `apart` between them.
+    // A prepayment's mode and period, a bonus part, a deduction: their fields `apart`.
     std::string prepayment(const char* apart, const char* every) {
         std::string fields = pick(2) ? "" : std::string(apart) + (pick(2) ? "reduce" : "shorten");
         if (pick(3) == 0) fields += apart + std::string(every) + (pick(6) ? std::to_string(1 + pick(60)) : word());
         return fields;
     }
-    // A bonus part's amount and months, or a deduction's parts, `apart` between them.
     std::string bonus(const char* apart) {
         return number() + apart + std::to_string(pick(14)) + apart + std::to_string(pick(14));
     }
@@ -61,22 +60,20 @@ public:
         std::string text;
         for (const char* part : {"", apart, apart}) text += part + (pick(3) ? number() : std::string());
         if (pick(2)) text += from + std::to_string(pick(2) ? 1990 + pick(60) : pick(100'000));
-        if (pick(2)) text += limit + number();
-        return text;
+        return pick(2) ? text + limit + number() : text;
     }
+    // Now and then a term line instead of an event, or words at random.
     std::string eventLine() {
-        if (pick(50) == 0) return word() + " " + word() + " " + word();
-        // Now and then a term line instead of an event.
-        switch (pick(12)) {
+        static const char* const kKinds[] = {"prepay", "rate", "fee"};
+        const std::size_t kind = pick(3);
+        switch (pick(50) == 0 ? 12 : pick(12)) {
         case 0: return pick(2) ? "interest monthly" : "rounding " + word();
         case 1: return pick(3) ? "review" : "review " + word();
         case 2: return "bonus " + bonus(" ");
         case 3: return "deduction " + deduction(" ", " from ", " limit ");
-        default: break;
+        case 12: return word() + " " + word() + " " + word();
+        default: return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
         }
-        static const char* const kKinds[] = {"prepay", "rate", "fee"};
-        const std::size_t kind = pick(3);
-        return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
     }
     std::string value(const std::string& option) {
         static const std::map<std::string, std::vector<const char*>> kChoices{
