@@ -2,6 +2,7 @@
 // The schedule tool's reading fed random and hostile options and events texts, in-process so that
 // the sanitizer build stops on any undefined behaviour. A fixed seed and count in CI;
 // KESTRUNE_FUZZ_RUNS and KESTRUNE_FUZZ_SEED run it longer or elsewhere.
+#include "engine/document.h"
 #include "tools/schedulecommand.h"
 
 #include "settings.h"
@@ -72,7 +73,8 @@ public:
         case 2: return "bonus " + bonus(" ");
         case 3: return "deduction " + deduction(" ", " from ", " limit ");
         case 12: return word() + " " + word() + " " + word();
-        default: return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
+        default:
+            return kKinds[kind] + (" " + payment() + " " + number()) + (kind == 0 ? prepayment(" ", "every ") : "");
         }
     }
     std::string value(const std::string& option) {
@@ -113,6 +115,20 @@ public:
         }
         return args;
     }
+    // A plan document with a few of its bytes cut, replaced or added, now and then nested deep.
+    std::string document(const std::string& whole) {
+        if (pick(100) == 0) return std::string(100'000, '[') + std::string(pick(2) ? 100'000 : 0, ']');
+        std::string text = whole;
+        for (std::size_t n = 1 + pick(4); n > 0; --n) {
+            const std::size_t at = pick(text.size() + 1);
+            switch (pick(3)) {
+            case 0: text.erase(at, pick(40)); break;
+            case 1: text.insert(at, word()); break;
+            default: text.insert(at, 1, "\"[]{}:,0\\"[pick(10)]);
+            }
+        }
+        return text;
+    }
     std::string eventsText() {
         std::string text;
         for (std::size_t n = pick(30); n > 0; --n) text += eventLine() + (pick(10) ? "\n" : "\r\n");
@@ -149,6 +165,22 @@ TEST(Fuzz, TheToolReadsAnyOptionsAndEvents) {
     }
     std::cout << "fuzz: " << runs << " inputs from seed " << seed << ": " << statuses[0] << " printed, " << statuses[1]
               << " refused, " << statuses[2] << " bad options\n";
+}
+
+TEST(Fuzz, TheDocumentReaderReadsAnyText) {
+    const std::uint64_t runs = setting("KESTRUNE_FUZZ_RUNS", 1000), seed = setting("KESTRUNE_FUZZ_SEED", 20261124);
+    Inputs inputs(seed);
+    const std::string whole = engine::documentText(
+        {{},
+         {{"A", {"interest monthly", "bonus 1000 6 12"}, "deduction 0.7 13 30000000", {"prepay 12 1000 every 12"}}}});
+    std::size_t read = 0;
+    for (std::uint64_t run = 0; run < runs; ++run) {
+        const engine::DocumentReading reading = engine::readDocument(inputs.document(whole));
+        ASSERT_NE(reading.document.has_value(), !reading.error.empty()) << "seed " << seed << " run " << run;
+        read += reading.document.has_value();
+    }
+    std::cout << "fuzz: " << runs << " documents from seed " << seed << ": " << read << " read, " << runs - read
+              << " refused\n";
 }
 
 } // namespace

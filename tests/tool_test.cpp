@@ -102,6 +102,14 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--events /", 2, "kestrune-schedule: cannot read events from /: Is a directory\n"},
         {"--events /nonexistent", 2,
          "kestrune-schedule: cannot read events from /nonexistent: No such file or directory\n"},
+        {"--plan /", 2, "kestrune-schedule: cannot read the plan /: Is a directory\n"},
+        {"--plan /dev/zero", 2, "kestrune-schedule: cannot read the plan /dev/zero: larger than 16 MB\n"},
+        {"--plan /dev/null", 2,
+         "kestrune-schedule: cannot read the plan /dev/null: not JSON: an error at line 1, column 1\n"},
+        {"--scenario A", 2, "kestrune-schedule: --scenario goes with --plan\n"},
+        {"--save-plan /nonexistent/p", 1,
+         "kestrune-schedule: cannot save the plan to /nonexistent/p: No such file or "
+         "directory\n"},
         {"--principal 9007199254740993", 1, "kestrune-schedule: amounts out of range\n"},
         {"--rate-change 2:1e300", 1, "kestrune-schedule: amounts out of range from the event: rate 2 1e+300\n"},
         {"--era \"$(printf '\\033[31mred')\"", 2, "kestrune-schedule: bad value for --era: ?[31mred\n"},
@@ -167,6 +175,25 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
         EXPECT_EQ(r.status, 0) << options;
         EXPECT_EQ(r.out, printed) << options;
     }
+}
+
+TEST(ScheduleTool, APlanSavedAsADocumentAndReadBack) {
+    const std::string file = std::filesystem::temp_directory_path() / ("kestrune-" + std::to_string(getpid()));
+    const std::string plan = kPlan + "--interest monthly --deduction --bonus 100,000 --totals --by-year --format json ";
+    ASSERT_EQ(run(plan + "--save-plan " + file + ".kestrune").status, 0);
+    EXPECT_EQ(run("--plan " + file + ".kestrune --totals --by-year --format json").out, run(plan).out);
+    EXPECT_EQ(run("--plan=" + file + ".kestrune --times 5 --fee 5:1 --totals").out,
+              run(kPlan + "--interest monthly --deduction --bonus 100,000 --times 5 --fee 5:1 --totals").out)
+        << "options override the form and add events";
+    std::ofstream(file + ".json") << R"({"format": "kestrune-plan", "version": 1, "form": {"principal": "600,000",
+        "rate": "3", "times": "6", "era": "heisei", "year": "30", "month": "11", "day": "20"},
+        "scenarios": [{"name": "A"}, {"name": "B", "events": ["fee 4 2,000"]}]})";
+    EXPECT_EQ(run("--plan " + file + ".json --scenario B --totals").out,
+              run("--era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 --fee 4:2000 "
+                  "--totals")
+                  .out);
+    std::filesystem::remove(file + ".kestrune");
+    std::filesystem::remove(file + ".json");
 }
 
 // 1,200,000 at 2 % in 12 payments from 2020-03-15, 300,000 of it a bonus part. Flat, months 6

@@ -3,7 +3,9 @@
 
 #include "calendar/era.h"
 #include "engine/calculation.h"
+#include "engine/document.h"
 #include "engine/plan.h"
+#include "runtime/files.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "strings/constants.h"
@@ -64,6 +66,12 @@ them into the form. No field corrections are applied. Each option is given as
                      rate change sets the payment anew only at payments 61, 121, ... (a bonus
                      part's every 10 bonus payments), at most 1.25 times the one before; interest
                      a payment doesn't cover is carried unpaid and paid with the last payment
+  --plan FILE        a plan document saved by Kestrune: its form, and the terms, deduction and
+                     events of its first scenario; the other options override the form and add
+                     to the scenario
+  --scenario NAME    with --plan, the scenario of that name
+  --save-plan FILE   write the plan of the other options to FILE as a plan document that
+                     Kestrune opens, instead of printing it
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
                      "fee 61 330000", and terms, as "interest monthly", "rounding down",
                      "bonus 9000000 6 12", "review", "deduction 0.7 13 30000000 from 2025
@@ -96,10 +104,6 @@ std::string usage() {
     return text;
 }
 
-// The words of each choice, in the order of the values they stand for.
-const std::vector<std::string_view> kEras{"western", "showa", "heisei", "reiwa"};
-const std::vector<std::string_view> kDelays{"next", "2after", "3after"};
-const std::vector<std::string_view> kMethods{"flat", "equal"};
 const std::vector<std::string_view> kFormats{"table", "tsv", "csv", "json"};
 
 table::Cells headerRow(table::PlanColumns columns) {
@@ -254,10 +258,45 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
                                                     {"--times", &form.times},         {"--month", &form.date.month},
                                                     {"--day", &form.date.day},        {"--pay-day", &form.date.payDay}};
     const std::map<std::string, std::pair<const std::vector<std::string_view>*, int*>> choices{
-        {"--era", {&kEras, &form.era}},
-        {"--delay", {&kDelays, &form.delay}},
-        {"--method", {&kMethods, &method}},
+        {"--era", {&engine::kEraWords, &form.era}},
+        {"--delay", {&engine::kDelayWords, &form.delay}},
+        {"--method", {&engine::kMethodWords, &method}},
         {"--format", {&kFormats, &format}}};
+
+    // A plan document first: the options override its form and add to its scenario.
+    std::optional<std::string> planFile, scenarioName, savePlan;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string option = args[i].substr(0, args[i].find('='));
+        if (option != "--plan" && option != "--scenario") continue;
+        const std::string value = option.size() < args[i].size() ? args[i].substr(option.size() + 1)
+                                  : i + 1 < args.size()          ? args[i + 1]
+                                                                 : "";
+        (option == "--plan" ? planFile : scenarioName) = value;
+    }
+    if (scenarioName && !planFile) return usageError(err, "--scenario goes with --plan");
+    std::string scenarioTitle = "Plan";
+    if (planFile) {
+        std::string text;
+        std::string problem = runtime::readWhole(*planFile, engine::kMaxDocumentBytes, text);
+        const engine::DocumentReading read = problem.empty() ? engine::readDocument(text) : engine::DocumentReading{};
+        if (problem.empty()) problem = read.error;
+        if (!problem.empty())
+            return usageError(err, "cannot read the plan " + runtime::excerpt(*planFile) + ": " + problem);
+        const auto& scenarios = read.document->scenarios;
+        const auto chosen = std::find_if(scenarios.begin(), scenarios.end(), [&](const engine::Scenario& s) {
+            return !scenarioName || s.name == *scenarioName;
+        });
+        if (chosen == scenarios.end())
+            return usageError(err,
+                              "no scenario " + runtime::excerpt(*scenarioName) + " in " + runtime::excerpt(*planFile));
+        form = read.document->form;
+        year = form.date.year;
+        method = form.flatPayment ? 0 : 1;
+        scenarioTitle = chosen->name;
+        eventLines = chosen->terms;
+        if (chosen->deduction) eventLines.push_back(*chosen->deduction);
+        eventLines.insert(eventLines.end(), chosen->events.begin(), chosen->events.end());
+    }
 
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--help" || args[i] == "-h") {
@@ -293,7 +332,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         }
         const bool known = texts.contains(option) || choices.contains(option) || option == "--year" ||
                            option == "--first" || option == "--last" || eventKinds.contains(option) ||
-                           option == "--events";
+                           option == "--events" || option == "--plan" || option == "--scenario" ||
+                           option == "--save-plan";
         if (!known) return usageError(err, "unknown option: " + runtime::excerpt(option));
         if (equals == std::string::npos && i + 1 >= args.size()) return usageError(err, "missing value for " + option);
         const std::string value = equals == std::string::npos ? args[++i] : args[i].substr(equals + 1);
@@ -312,6 +352,10 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
                 return usageError(err, problem);
         } else if (option == "--year") {
             year = value;
+        } else if (option == "--save-plan") {
+            savePlan = value;
+        } else if (option == "--plan" || option == "--scenario") {
+            // Read before the others.
         } else if (option == "--first") {
             listed.first = runtime::intVal(value);
         } else {
@@ -341,6 +385,18 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         const auto reading = engine::readEvent(line, engine::readLoanForm(form).paymentCount);
         if (!reading.event) return usageError(err, "bad event: " + reading.error);
         events.push_back(*reading.event);
+    }
+    if (savePlan) {
+        engine::Scenario scenario{scenarioTitle, engine::termLines(terms), std::nullopt, {}};
+        if (deduction) scenario.deduction = engine::deductionLine(*deduction);
+        for (const engine::PlanEvent& e : events) scenario.events.push_back(engine::eventLine(e));
+        const std::string text = engine::documentText({form, {scenario}});
+        if (const std::string problem = runtime::saveWhole(*savePlan, text); !problem.empty()) {
+            err << "kestrune-schedule: cannot save the plan to " << runtime::excerpt(*savePlan) << ": " << problem
+                << '\n';
+            return 1;
+        }
+        return 0;
     }
     const bool plan = !events.empty() || showTotals || byYear;
 

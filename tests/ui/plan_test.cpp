@@ -239,6 +239,7 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     plan->Deduction->setChecked(false);
     EXPECT_TRUE(plan->Figures[11]->isHidden());
     EXPECT_EQ(plan->Years->model()->columnCount(), 9);
+    EXPECT_EQ(figure(0), "402") << "the plan without the deduction";
 }
 
 // What a failed save tells: the message of the window, then closed; empty where none.
@@ -259,8 +260,9 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nprepay 12 500000 reduce every 12\nfee 13 1,000\n");
     QTemporaryDir dir;
     ASSERT_TRUE(plan->saveCsv(dir.filePath("plan.csv")));
-    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) == tool("--interest monthly --rounding down --bonus 3000000 --review "
-                                                        "--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
+    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) ==
+                tool("--interest monthly --rounding down --bonus 3000000 --review "
+                     "--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     EXPECT_EQ(message(plan), "");
     EXPECT_NE(output("pdfimages -list " + dir.filePath("plan.pdf").toStdString()).find(" image "), std::string::npos)
@@ -284,19 +286,19 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
 
 TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     planner::TermsBox* terms = plan->Terms;
-    paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nfee 1 0\n");
+    paste("interest monthly\nrounding down\nbonus 3,000,000 7 1\nreview\nfee 1 0\n");
     EXPECT_EQ(terms->Interest->currentText(), "by months, as lenders count it");
     EXPECT_TRUE(terms->RoundDown->isChecked() && terms->Bonus->isChecked() && terms->Review->isChecked());
     EXPECT_EQ(terms->BonusAmount->text(), "3,000,000");
     EXPECT_EQ(plan->Events->rowCount(), 1);
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
-                tool("--interest monthly --rounding down --bonus 3000000 --review --fee 1:0"));
+                tool("--interest monthly --rounding down --bonus 3000000:7,1 --review --fee 1:0"));
     EXPECT_FALSE(plan->Figures[10]->isHidden()) << "the unpaid interest paid";
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
-              "interest monthly\nrounding down\nbonus 3000000 6 12\nreview\nfee 1 0\n");
+              "interest monthly\nrounding down\nbonus 3000000 7 1\nreview\nfee 1 0\n");
     // Each refusal is named under the terms and marked on its control; the plan shows no rows.
     QTest::mouseClick(terms->BonusAmount, Qt::LeftButton);
     terms->BonusAmount->selectAll();
@@ -306,7 +308,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     EXPECT_EQ(terms->BonusAmount->toolTip(), terms->Problem->text());
     EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
     terms->BonusAmount->setText("x");
-    terms->BonusMonth2->setValue(6);
+    terms->BonusMonth2->setValue(7);
     EXPECT_EQ(terms->Problem->text(), "The bonus part takes an amount above 0 and two different months");
     QTest::mouseClick(terms->Bonus, Qt::LeftButton);
     w->KindPopup->setListIndex(1); // equal principal

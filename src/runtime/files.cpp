@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runtime/files.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace runtime {
+
+std::string readWhole(const std::string& path, std::size_t limit, std::string& text) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return std::strerror(errno);
+    text.clear();
+    char buffer[1 << 16];
+    ssize_t got = 0;
+    while ((got = ::read(fd, buffer, sizeof buffer)) > 0 && text.size() <= limit)
+        text.append(buffer, static_cast<std::size_t>(got));
+    const int error = got < 0 ? errno : 0;
+    ::close(fd);
+    if (error != 0) return std::strerror(error);
+    if (text.size() > limit) return "larger than " + std::to_string(limit >> 20) + " MB";
+    return {};
+}
+
+std::string saveWhole(const std::string& path, std::string_view text) {
+    std::string temporary = path + ".XXXXXX";
+    const int fd = ::mkstemp(temporary.data());
+    if (fd < 0) return std::strerror(errno);
+    int error = 0;
+    for (std::size_t written = 0; written < text.size() && error == 0;) {
+        const ssize_t n = ::write(fd, text.data() + written, text.size() - written);
+        if (n < 0 && errno != EINTR) error = errno;
+        if (n > 0) written += static_cast<std::size_t>(n);
+    }
+    // Readable as a file the user made is, not only by its owner as a temporary file is.
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    if (error == 0 && ::fchmod(fd, static_cast<mode_t>(0666 & ~mask)) != 0) error = errno;
+    if (error == 0 && ::fsync(fd) != 0) error = errno;
+    if (::close(fd) != 0 && error == 0) error = errno;
+    if (error == 0 && std::rename(temporary.c_str(), path.c_str()) != 0) error = errno;
+    if (error != 0) ::unlink(temporary.c_str());
+    return error != 0 ? std::strerror(error) : std::string();
+}
+
+} // namespace runtime
