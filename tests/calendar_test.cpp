@@ -64,6 +64,8 @@ struct CorrectionCase {
 
 TEST(Era, AYearThatDoesNotFitItsEraMoves) {
     const CorrectionCase cases[] = {
+        {kShowa, 1, 12, {kShowa, 1}, false},
+        {kShowa, 63, 6, {kShowa, 63}, false},
         {kShowa, 64, 1, {kShowa, 64}, false},
         {kShowa, 64, 2, {kHeisei, 1}, true},
         {kHeisei, 31, 4, {kHeisei, 31}, false},

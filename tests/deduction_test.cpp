@@ -12,10 +12,11 @@ namespace {
 TEST(Deduction, LinesReadAndWrittenBack) {
     const std::pair<const char*, const char*> cases[] = {
         {"deduction", "deduction 0.7 13 30000000"},
-        {"deduction 1 10", "deduction 1 10 30000000"},
+        {"deduction 1 100", "deduction 1 100 30000000"},
         {"deduction 0.7 13 30,000,000 from 2025 limit 250,000", "deduction 0.7 13 30000000 from 2025 limit 250000"},
         {"deduction limit 1", "deduction 0.7 13 30000000 limit 1"},
         {"deduction 0.7 13.5", ""},
+        {"deduction 1 101", ""},
         {"deduction -1", ""},
         {"deduction from", ""},
         {"deduction 1 2 3 4", ""},

@@ -93,6 +93,41 @@ or Flat payment Calculation</comment>
         <comment>Prepayments and Rate Changes...</comment>
         <translation>繰上返済と金利変更...</translation>
     </message>
+    <message>
+        <source>kFileOpen</source>
+        <comment>&amp;Open...</comment>
+        <translation>開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>kFileOpenRecent</source>
+        <comment>Open &amp;Recent</comment>
+        <translation>最近使ったファイル(&amp;R)</translation>
+    </message>
+    <message>
+        <source>kFileSave</source>
+        <comment>&amp;Save</comment>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>kFileSaveAs</source>
+        <comment>Save &amp;As...</comment>
+        <translation>名前を付けて保存(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>kPlanFilter</source>
+        <comment>Kestrune plans</comment>
+        <translation>Kestrune の返済計画</translation>
+    </message>
+    <message>
+        <source>kOpenFailed</source>
+        <comment>&quot;%1&quot; could not be opened: %2</comment>
+        <translation>“%1”を開けませんでした: %2</translation>
+    </message>
+    <message>
+        <source>kSaveChanges</source>
+        <comment>Save the changes to &quot;%1&quot; before closing?</comment>
+        <translation>“%1”の変更を閉じる前に保存しますか?</translation>
+    </message>
 </context>
 <context>
     <name>HelpWindow</name>

@@ -313,6 +313,7 @@ void PlanWindow::recalculate() {
     showFigures(outcome, form.era);
     drawChart(m_payments,
               outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
+    emit changed();
 }
 
 void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
@@ -450,24 +451,64 @@ void PlanWindow::removeEvents() {
     recalculate();
 }
 
+// The line of a row of the list, as its cells hold it.
+QString PlanWindow::rowLine(int row) const {
+    QStringList words;
+    for (const int column : {kKind, kPayment, kValue, kMode, kEvery}) {
+        const QString cell = Events->item(row, column) ? Events->item(row, column)->text().trimmed() : QString();
+        if (column >= kMode && (Events->item(row, kKind)->text() != "prepay" || cell.isEmpty())) continue;
+        words << (column == kEvery ? "every " + cell : cell);
+    }
+    return words.join(' ');
+}
+
+// A row of the list from an event's line, its words in their cells.
+void PlanWindow::appendRow(const std::string& line) {
+    QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
+    QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
+    for (int i = 3; i < words.size(); ++i) {
+        if (words[i] == "every")
+            cells[kEvery] = words.value(++i);
+        else
+            cells[kMode] = words[i];
+    }
+    const int row = Events->rowCount();
+    Events->insertRow(row);
+    for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
+}
+
+engine::Scenario PlanWindow::scenario() const {
+    engine::Scenario scenario;
+    if (const auto terms = Terms->terms()) scenario.terms = engine::termLines(*terms);
+    if (const auto deduction = Deduction->deduction().deduction) scenario.deduction = engine::deductionLine(*deduction);
+    for (int row = 0; row < Events->rowCount(); ++row) scenario.events.push_back(rowLine(row).toStdString());
+    return scenario;
+}
+
+void PlanWindow::setScenario(const engine::Scenario& scenario) {
+    engine::LenderTerms terms;
+    for (const std::string& line : scenario.terms) engine::readTerm(line, terms);
+    std::optional<engine::TaxDeduction> deduction;
+    if (scenario.deduction) engine::readDeduction(*scenario.deduction, deduction);
+    Terms->setTerms(terms);
+    Deduction->setDeduction(deduction);
+    m_reading = true;
+    Events->setRowCount(0);
+    for (const std::string& line : scenario.events) appendRow(line);
+    m_reading = false;
+    recalculate();
+}
+
 void PlanWindow::copyEvents() const {
+    const engine::Scenario all = scenario();
     QStringList lines;
-    if (const auto terms = Terms->terms())
-        for (const std::string& line : engine::termLines(*terms)) lines << qs(line);
-    if (const auto deduction = Deduction->deduction().deduction) lines << qs(engine::deductionLine(*deduction));
+    for (const std::string& line : all.terms) lines << qs(line);
+    if (all.deduction) lines << qs(*all.deduction);
     QList<int> rows;
     for (const QModelIndex& index : Events->selectionModel()->selectedIndexes())
         if (!rows.contains(index.row())) rows.append(index.row());
     std::sort(rows.begin(), rows.end());
-    for (const int row : rows) {
-        QStringList words;
-        for (const int column : {kKind, kPayment, kValue, kMode, kEvery}) {
-            const QString cell = Events->item(row, column) ? Events->item(row, column)->text().trimmed() : QString();
-            if (column >= kMode && (Events->item(row, kKind)->text() != "prepay" || cell.isEmpty())) continue;
-            words << (column == kEvery ? "every " + cell : cell);
-        }
-        lines << words.join(' ');
-    }
+    for (const int row : rows) lines << rowLine(row);
     QGuiApplication::clipboard()->setText(lines.join('\n') + (lines.isEmpty() ? "" : "\n"));
 }
 
@@ -499,19 +540,7 @@ void PlanWindow::pasteEvents() {
     Terms->setTerms(terms);
     Deduction->setDeduction(deduction);
     m_reading = true;
-    for (const std::string& line : eventLines) {
-        QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
-        QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
-        for (int i = 3; i < words.size(); ++i) {
-            if (words[i] == "every")
-                cells[kEvery] = words.value(++i);
-            else
-                cells[kMode] = words[i];
-        }
-        const int row = Events->rowCount();
-        Events->insertRow(row);
-        for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
-    }
+    for (const std::string& line : eventLines) appendRow(line);
     m_reading = false;
     recalculate();
 }

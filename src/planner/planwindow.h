@@ -4,6 +4,7 @@
 // plan's schedule, totals and savings, the figures of each year and a chart; the schedule can be
 // copied, saved as CSV, printed or exported as PDF. It follows its main window's calculations.
 
+#include "engine/document.h"
 #include "engine/plan.h"
 #include "planner/report.h"
 
@@ -41,6 +42,9 @@ public:
     // and terms pasted from lines.
     void copyEvents() const;
     void pasteEvents();
+    // The terms, deduction and events the window holds, each event as its row reads; and set anew.
+    engine::Scenario scenario() const;
+    void setScenario(const engine::Scenario& scenario);
     // The whole schedule, headings and every row, for a spreadsheet.
     void copySchedule() const;
     // Saved whole or not at all; a failure is told in a message that names the file.
@@ -58,6 +62,10 @@ public:
     std::vector<QLabel*> Figures;
     QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
 
+signals:
+    // The plan was calculated anew: its events, terms or deduction, or its loan, changed.
+    void changed();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -68,6 +76,8 @@ private:
     // the reason, and so is the row whose event makes the plan refused.
     std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount, std::optional<int> refusedRow = {});
     void markRow(int row, const QString& why);
+    QString rowLine(int row) const;
+    void appendRow(const std::string& line);
     void showFigures(const engine::PlanOutcome& outcome, int era);
     void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
     void print();

@@ -25,16 +25,34 @@ std::string readWhole(const std::string& path, std::size_t limit, std::string& t
     return {};
 }
 
+namespace {
+
+// Every byte of the text to the file; the reason where one can't be written, or 0.
+int writeAll(int fd, std::string_view text) {
+    for (std::size_t written = 0; written < text.size();) {
+        const ssize_t n = ::write(fd, text.data() + written, text.size() - written);
+        if (n < 0 && errno != EINTR) return errno;
+        if (n > 0) written += static_cast<std::size_t>(n);
+    }
+    return 0;
+}
+
+} // namespace
+
 std::string saveWhole(const std::string& path, std::string_view text) {
+    // A device or a pipe can't be renamed over, and must not be: it is written to.
+    struct stat target {};
+    if (::stat(path.c_str(), &target) == 0 && !S_ISREG(target.st_mode) && !S_ISDIR(target.st_mode)) {
+        const int fd = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+        if (fd < 0) return std::strerror(errno);
+        int error = writeAll(fd, text);
+        if (::close(fd) != 0 && error == 0) error = errno;
+        return error != 0 ? std::strerror(error) : std::string();
+    }
     std::string temporary = path + ".XXXXXX";
     const int fd = ::mkstemp(temporary.data());
     if (fd < 0) return std::strerror(errno);
-    int error = 0;
-    for (std::size_t written = 0; written < text.size() && error == 0;) {
-        const ssize_t n = ::write(fd, text.data() + written, text.size() - written);
-        if (n < 0 && errno != EINTR) error = errno;
-        if (n > 0) written += static_cast<std::size_t>(n);
-    }
+    int error = writeAll(fd, text);
     // Readable as a file the user made is, not only by its owner as a temporary file is.
     const mode_t mask = ::umask(0);
     ::umask(mask);

@@ -27,7 +27,6 @@ ListBox::ListBox(QWidget* parent) : QTableView(parent), m_model(new ScheduleMode
     setModel(m_model);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
-    setSortingEnabled(false);
     setTabKeyNavigation(false); // one tab stop: Tab leaves the table, the arrows move in it
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -9,6 +9,7 @@
 #include "controls/textfield.h"
 #include "form/amountfields.h"
 #include "placement/helpplacement.h"
+#include "planner/document.h"
 #include "planner/planwindow.h"
 #include "runtime/numbers.h"
 #include "shell/aboutwindow.h"
@@ -22,10 +23,14 @@
 
 #include <QCloseEvent>
 #include <QDate>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTableWidget>
@@ -55,7 +60,11 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                               Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(text(strings::kAppName));
+    m_document = new planner::Document(this);
+    m_methodTitle = text(strings::kAppName);
+    setWindowTitle(m_methodTitle);
+    setAcceptDrops(true);
+    connect(this, &MainWindow::calculated, m_document, &planner::Document::update);
     buildMenuBar(menuBar(), this);
 
     auto* form = new controls::LockedLayoutWidget(kDesignSize, this);
@@ -321,7 +330,8 @@ void MainWindow::Event_Open() {
         StartY->setText(qs(runtime::Str(calendar::yearInEra(calendar::kReiwa, today.year()))));
         StartM->setText(qs(runtime::Str(static_cast<std::int64_t>(today.month()))));
         StartD->setText(qs(runtime::Str(static_cast<std::int64_t>(today.day()))));
-        setWindowTitle(KindPopup->currentText() + text(strings::kCulc));
+        m_methodTitle = KindPopup->currentText() + text(strings::kCulc);
+        showTitle();
     }
     totalRows = -1;
     GankinField->setFocus();
@@ -340,8 +350,29 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!m_document->maySave()) {
+        event->ignore();
+        return;
+    }
     Event_Close();
     QMainWindow::closeEvent(event);
+}
+
+// Files dropped on the window open as plan documents, each in a window.
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    planner::Document::open(paths, this);
+}
+
+void MainWindow::showTitle() {
+    const QString path = m_document->path();
+    setWindowTitle(path.isEmpty() ? m_methodTitle : QFileInfo(path).fileName() + "[*] — " + m_methodTitle);
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -393,8 +424,24 @@ void MainWindow::CulcButton_Action() {
     emit calculated();
 }
 
+engine::Scenario MainWindow::planScenario() const {
+    if (!m_plan) return m_scenario;
+    engine::Scenario scenario = m_plan->scenario();
+    scenario.name = m_scenario.name;
+    return scenario;
+}
+
+void MainWindow::setPlanScenario(const engine::Scenario& scenario) {
+    m_scenario = scenario;
+    if (m_plan) m_plan->setScenario(scenario);
+}
+
 void MainWindow::showPlan() {
-    if (!m_plan) m_plan = new planner::PlanWindow(this);
+    if (!m_plan) {
+        m_plan = new planner::PlanWindow(this);
+        m_plan->setScenario(m_scenario);
+        connect(m_plan, &planner::PlanWindow::changed, m_document, &planner::Document::update);
+    }
     m_plan->show();
     m_plan->raise();
     m_plan->activateWindow();
@@ -433,7 +480,8 @@ void MainWindow::setList(std::vector<table::Row> rows) {
 void MainWindow::KindPopup_Open() { isGanri = KindPopup->ListIndex() == 0; }
 
 void MainWindow::KindPopup_Change() {
-    setWindowTitle(KindPopup->currentText() + text(strings::kCulc));
+    m_methodTitle = KindPopup->currentText() + text(strings::kCulc);
+    showTitle();
     isGanri = KindPopup->ListIndex() == 0;
     CulcButton->Push();
 }

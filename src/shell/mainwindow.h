@@ -25,6 +25,7 @@
 
 #include "calendar/datefields.h"
 #include "engine/calculation.h"
+#include "engine/document.h"
 #include "table/rows.h"
 
 #include <QLabel>
@@ -47,8 +48,9 @@ class TextField;
 } // namespace controls
 
 namespace planner {
+class Document;
 class PlanWindow;
-}
+} // namespace planner
 
 namespace shell {
 
@@ -61,6 +63,13 @@ public:
 
     // The Plan window of this window, opened or raised.
     void showPlan();
+    // The scenario its Plan window holds (as the window was left, or as set before it opened).
+    engine::Scenario planScenario() const;
+    void setPlanScenario(const engine::Scenario& scenario);
+    // The plan document the window shows, and its title: the document's name with the modified
+    // mark where it has a file, then the method.
+    planner::Document* document() const { return m_document; }
+    void showTitle();
     // The words of the pay-off statement in the user's language.
     static calendar::PayoffWords payoffWords();
 
@@ -170,6 +179,8 @@ signals:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -193,6 +204,9 @@ private:
     int m_actionRuns = 0;
     QPointer<QWidget> m_lastFocusedControl;
     QPointer<planner::PlanWindow> m_plan;
+    engine::Scenario m_scenario{"Plan", {}, {}, {}}; // while no Plan window holds it
+    planner::Document* m_document;
+    QString m_methodTitle;
 };
 
 } // namespace shell

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/menubar.h"
 
+#include "planner/document.h"
+
 #include "shell/app.h"
 
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
 
+#include <QDir>
 #include <QMenuBar>
 
 namespace shell {
@@ -25,6 +28,28 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
     fileMenu->setObjectName("FileMenu");
     // New and Quit are the application's: one action each, shared by every window's menu.
     fileMenu->addAction(App::instance()->fileNewAction());
+    if (window) {
+        QObject::connect(addItem(fileMenu, "FileOpen", strings::kFileOpen, QKeySequence::Open), &QAction::triggered,
+                         window, [window] { planner::Document::openWithDialog(window); });
+        QMenu* recent = fileMenu->addMenu(strings::text(strings::kFileOpenRecent));
+        recent->setObjectName("FileOpenRecent");
+        QObject::connect(recent, &QMenu::aboutToShow, window, [recent, window] {
+            recent->clear();
+            for (const QString& path : planner::Document::recentFiles())
+                QObject::connect(recent->addAction(QDir::toNativeSeparators(path)), &QAction::triggered, window,
+                                 [path, window] { planner::Document::open({path}, window); });
+            recent->setEnabled(!recent->isEmpty());
+        });
+        fileMenu->addSeparator();
+        QObject::connect(addItem(fileMenu, "FileSave", strings::kFileSave, QKeySequence::Save), &QAction::triggered,
+                         window->document(), &planner::Document::save);
+        // Ctrl+Shift+S where the platform names no Save As key (as on the offscreen platform).
+        const QKeySequence saveAs =
+            QKeySequence(QKeySequence::SaveAs).isEmpty() ? QKeySequence("Ctrl+Shift+S") : QKeySequence::SaveAs;
+        QObject::connect(addItem(fileMenu, "FileSaveAs", strings::kFileSaveAs, saveAs), &QAction::triggered,
+                         window->document(), &planner::Document::saveAs);
+        fileMenu->addSeparator();
+    }
     fileMenu->addAction(App::instance()->fileQuitAction());
 
     QMenu* editMenu = bar->addMenu(strings::text(strings::kEditMenu));

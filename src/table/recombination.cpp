@@ -13,10 +13,15 @@ using runtime::intVal;
 using runtime::Str;
 using runtime::Val;
 
+namespace {
+
+// A two-digit Western year widened to the first year at or after `baseYear` that ends in it.
 std::int64_t widenedYear(std::int64_t baseYear, std::int64_t twoDigits) {
     const std::int64_t year = baseYear / 100 * 100 + twoDigits;
     return year < baseYear ? year + 100 : year;
 }
+
+} // namespace
 
 engine::LoanForm recombination(const engine::LoanForm& old, const calendar::Date& firstPayment, const Row& selected,
                                std::int64_t rowsUpToSelected) {

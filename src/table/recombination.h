@@ -16,7 +16,4 @@ namespace table {
 engine::LoanForm recombination(const engine::LoanForm& old, const calendar::Date& firstPayment, const Row& selected,
                                std::int64_t rowsUpToSelected);
 
-// A two-digit Western year widened to the first year at or after `baseYear` that ends in it.
-std::int64_t widenedYear(std::int64_t baseYear, std::int64_t twoDigits);
-
 } // namespace table

@@ -188,7 +188,13 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     for (int i = 0; i < 10; ++i) figures << figure(i);
     EXPECT_EQ(figures, (QStringList{"360", "35,478,270", "5,148,270", "5,280,570", "330,000", "2050 / 3 / 8 ",
                                     "3,417,868", "60 (5 years 0 months)", "3,087,868", "85 (2027 / 4 / 8)"}));
-    EXPECT_EQ(plan->Chart->chart()->series().size(), 4);
+    QStringList names;
+    for (const QAbstractSeries* series : plan->Chart->chart()->series()) names << series->name();
+    EXPECT_EQ(names.join('|'), "Balance|Balance without events|Interest paid|Interest paid without events");
+    const QAbstractItemModel* rows = plan->Schedule->model();
+    EXPECT_EQ(QString::number(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->at(0).y(), 'f', 0),
+              rows->index(0, rows->columnCount() - 1).data().toString().remove(','))
+        << "the balance after the first payment";
     EXPECT_GT(static_cast<QLineSeries*>(plan->Chart->chart()->series().at(1))->count(), 0) << "without events";
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
 }

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Plan documents through the File menu: saved, opened again in a window of their own, marked as
+// changed, asked about on closing; a damaged file told and nothing else done.
+#include "uitest.h"
+
+#include "planner/document.h"
+#include "planner/planwindow.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <fstream>
+
+namespace {
+
+using namespace uitest;
+
+// Answers the next modal dialog: a file dialog with the file, a question with the button.
+void answer(const QString& file, QMessageBox::StandardButton button = QMessageBox::NoButton) {
+    QTimer::singleShot(0, [file, button] {
+        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            dialog->selectFile(file);
+            QMetaObject::invokeMethod(dialog, "accept");
+        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            box->button(button)->click();
+        }
+    });
+}
+
+TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
+    setForm(loan2020());
+    w->showPlan();
+    QGuiApplication::clipboard()->setText("rounding down\nfee 1 10\n");
+    w->findChild<planner::PlanWindow*>()->pasteEvents();
+    QTemporaryDir dir;
+    showActive(w);
+    answer(dir.filePath("plan.kestrune"));
+    QTest::keyClick(w, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(w->windowTitle(), "plan.kestrune[*] — Equal principal Culc");
+    EXPECT_FALSE(w->isWindowModified());
+    // Opened again: the same form, terms and events in a window of its own.
+    showActive(w);
+    answer(dir.filePath("plan.kestrune"));
+    QTest::keyClick(w, Qt::Key_O, Qt::ControlModifier);
+    MainWindow* opened = newestWindow();
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->loanForm(), w->loanForm());
+    EXPECT_TRUE(opened->planScenario() == (engine::Scenario{"Plan", {"rounding down"}, {}, {"fee 1 10"}}));
+    EXPECT_FALSE(opened->isWindowModified());
+    opened->close();
+    showActive(w);
+    // A change marks it, and undoing the change unmarks it.
+    typeAndLeave(w->Kaisu, "120");
+    EXPECT_TRUE(w->isWindowModified());
+    typeAndLeave(w->Kaisu, "144");
+    EXPECT_FALSE(w->isWindowModified());
+    typeAndLeave(w->Kaisu, "12");
+    answer({}, QMessageBox::Cancel);
+    EXPECT_FALSE(w->close()) << "Cancel keeps the window";
+    answer({}, QMessageBox::Save);
+    EXPECT_TRUE(w->close());
+    std::ifstream saved(dir.filePath("plan.kestrune").toStdString());
+    EXPECT_NE(std::string(std::istreambuf_iterator<char>(saved), {}).find("\"times\": \"12\""), std::string::npos);
+}
+
+TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {
+    QTemporaryDir dir;
+    std::ofstream(dir.filePath("damaged.kestrune").toStdString()) << "{\"format\": \"kestrune-plan\",\n  \"version\": x";
+    planner::Document::open({dir.filePath("damaged.kestrune"), dir.filePath("none.kestrune")}, w);
+    QStringList said;
+    for (QMessageBox* box : w->findChildren<QMessageBox*>()) said << box->text();
+    EXPECT_EQ(said, (QStringList{"\"" + dir.filePath("damaged.kestrune") +
+                                     "\" could not be opened: not JSON: an error at line 2, column 14",
+                                 "\"" + dir.filePath("none.kestrune") +
+                                     "\" could not be opened: No such file or directory"}));
+    EXPECT_EQ(shell::App::instance()->mainWindows().size(), 1);
+}
+
+} // namespace
