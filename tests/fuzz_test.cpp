@@ -98,14 +98,14 @@ public:
         static const std::vector<std::string> kOptions =
             split("--principal --rate --first --last --era --year --month --day --pay-day --delay --method --format "
                   "--prepay --rate-change --fee --prepay --totals --by-year --interest --rounding --bonus --review "
-                  "--deduction --deduction",
+                  "--deduction --deduction --compare",
                   ' ');
         // Loans short enough to walk quickly, with now and then the longest.
         m_times = pick(20) == 0 ? 100'000 : 1 + pick(600);
         std::vector<std::string> args{"--times", std::to_string(m_times)};
         for (std::size_t n = pick(8); n > 0; --n) {
             const std::string option = kOptions[pick(kOptions.size())];
-            if (option == "--totals" || option == "--by-year" || option == "--review" ||
+            if (option == "--totals" || option == "--by-year" || option == "--review" || option == "--compare" ||
                 (option == "--deduction" && pick(2)))
                 args.push_back(pick(50) ? option : pick(2) ? "--help" : word());
             else if (pick(2))

@@ -192,6 +192,22 @@ TEST(ScheduleTool, APlanSavedAsADocumentAndReadBack) {
               run("--era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 --fee 4:2000 "
                   "--totals")
                   .out);
+    // Compared: the document's scenarios (A with the options' events), then the loan without events.
+    EXPECT_EQ(run("--plan " + file + ".json --compare --format tsv --prepay 2:100,000 --rate-change 3:1.5").out,
+              "Measure\tA\tB\tWithout events\nPayments\t5 *\t6\t6\n"
+              "Payoff\tHeisei  31 / 4 / 8  *\tReiwa  1 / 5 / 8 \tReiwa  1 / 5 / 8 \n"
+              "Paid\t602,899 *\t606,624\t604,624\nInterest\t2,899 *\t4,624\t4,624\nFees\t0 *\t2,000\t0 *\n"
+              "Deduction\t0\t0\t0\nNet cost\t2,899 *\t6,624\t4,624\nInterest saved\t1,725 *\t0\t0\n"
+              "Net saving\t1,725 *\t-2,000\t0\nBreak-even payment\tno fees\tnot within the loan\tno fees\n");
+    EXPECT_EQ(run("--plan " + file + ".json --compare --format json --rate-change 2:1e300 --last 0").out,
+              "{\"header\": [\"Measure\", \"A\", \"B\", \"Without events\"], \"rows\": [[\"Payments\", \"refused\", "
+              "\"6\", \"6\"], [\"Payoff\", \"refused\", \"Reiwa  1 / 5 / 8 \", \"Reiwa  1 / 5 / 8 \"], [\"Paid\", "
+              "\"refused\", \"606,624\", \"604,624\"], [\"Interest\", \"refused\", \"4,624\", \"4,624\"], [\"Fees\", "
+              "\"refused\", \"2,000\", \"0\"], [\"Deduction\", \"refused\", \"0\", \"0\"], [\"Net cost\", \"refused\", "
+              "\"6,624\", \"4,624\"], [\"Interest saved\", \"refused\", \"0\", \"0\"], [\"Net saving\", \"refused\", "
+              "\"-2,000\", \"0\"], [\"Break-even payment\", \"refused\", \"not within the loan\", \"no fees\"]], "
+              "\"best\": [[], [], [\"Without events\"], [], [\"Without events\"], [], [\"Without events\"], [], "
+              "[\"Without events\"], []]}\n");
     std::filesystem::remove(file + ".kestrune");
     std::filesystem::remove(file + ".json");
 }

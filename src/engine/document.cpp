@@ -174,4 +174,81 @@ DocumentReading readDocument(std::string_view text) {
     return {std::move(document), {}};
 }
 
+bool readPlanLine(std::string_view line, std::int64_t paymentCount, ScenarioReading& reading) {
+    const auto wrong = [&reading](const std::string& why) {
+        if (reading.error.empty()) reading.error = why;
+        return false;
+    };
+    if (const TermReading read = readDeduction(line, reading.deduction); read.isTerm)
+        return read.error.empty() || wrong("bad term: " + read.error);
+    if (const TermReading read = readTerm(line, reading.terms); read.isTerm)
+        return read.error.empty() || wrong("bad term: " + read.error);
+    EventReading read = readEvent(line, paymentCount);
+    if (!read.event) return wrong("bad event: " + read.error);
+    reading.events.push_back(*read.event);
+    return true;
+}
+
+ScenarioReading readScenario(const Scenario& scenario, std::int64_t paymentCount) {
+    ScenarioReading reading;
+    for (const std::string& line : scenario.terms) readPlanLine(line, paymentCount, reading);
+    if (scenario.deduction) readPlanLine(*scenario.deduction, paymentCount, reading);
+    for (const std::string& line : scenario.events) readPlanLine(line, paymentCount, reading);
+    return reading;
+}
+
+std::vector<ComparedPlan> comparePlans(const PlanDocument& document) {
+    const std::int64_t count = readLoanForm(document.form).paymentCount;
+    std::vector<ComparedPlan> plans;
+    for (const Scenario& scenario : document.scenarios) {
+        const ScenarioReading read = readScenario(scenario, count);
+        PlanOutcome outcome = evaluatePlan(document.form, read.events, read.terms, read.deduction);
+        plans.push_back({scenario.name, read.error.empty() && outcome.refusal == Refusal::None
+                                            ? std::optional(std::move(outcome))
+                                            : std::nullopt});
+    }
+    Scenario without = document.scenarios.front();
+    without.events.clear();
+    const ScenarioReading read = readScenario(without, count);
+    PlanOutcome outcome = evaluatePlan(document.form, {}, read.terms, read.deduction);
+    plans.push_back({"", read.error.empty() && outcome.refusal == Refusal::None ? std::optional(std::move(outcome))
+                                                                                : std::nullopt});
+    return plans;
+}
+
+std::optional<double> measureOf(const PlanOutcome& outcome, Measure measure) {
+    const PlanTotals& t = outcome.totals;
+    const PlanSavings& s = outcome.savings;
+    switch (measure) {
+    case Measure::Payments: return static_cast<double>(t.payments);
+    case Measure::Payoff: return static_cast<double>(t.payoff.days().time_since_epoch().count());
+    case Measure::Paid: return t.paid;
+    case Measure::Interest: return t.interest;
+    case Measure::Fees: return t.fees;
+    case Measure::Deduction: return t.deduction;
+    case Measure::NetCost: return t.netCost;
+    case Measure::InterestSaved: return s.interestSaved;
+    case Measure::NetSaving: return s.netSaving;
+    case Measure::BreakEven:
+        if (!s.breakEven) return std::nullopt;
+        return static_cast<double>(s.breakEvenDate.days().time_since_epoch().count());
+    }
+    return std::nullopt;
+}
+
+std::vector<std::size_t> bestIn(const std::vector<ComparedPlan>& plans, Measure measure) {
+    const bool most =
+        measure == Measure::Deduction || measure == Measure::InterestSaved || measure == Measure::NetSaving;
+    std::vector<std::pair<double, std::size_t>> values; // of the plans that have the measure
+    for (std::size_t i = 0; i < plans.size(); ++i)
+        if (const auto value = plans[i].outcome ? measureOf(*plans[i].outcome, measure) : std::nullopt)
+            values.emplace_back(most ? -*value : *value, i);
+    std::vector<std::size_t> best;
+    if (values.empty()) return best;
+    const auto [low, high] = std::minmax_element(values.begin(), values.end());
+    for (const auto& [value, i] : values)
+        if (value == low->first && low->first < high->first) best.push_back(i);
+    return best;
+}
+
 } // namespace engine

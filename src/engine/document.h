@@ -4,7 +4,7 @@
 // lender terms, deduction and events as the lines of a plan's text. Kept as UTF-8 JSON that a
 // person and a script can read; the schedule tool and the window read and write the same files.
 
-#include "engine/loan.h"
+#include "engine/plan.h"
 
 #include <optional>
 #include <string>
@@ -48,5 +48,35 @@ struct DocumentReading {
     std::string error;
 };
 DocumentReading readDocument(std::string_view text);
+
+// A scenario's lines read: its terms, its deduction and its events, or why a line is wrong, as
+// "bad term: ..." or "bad event: ...".
+struct ScenarioReading {
+    LenderTerms terms;
+    std::optional<TaxDeduction> deduction;
+    std::vector<PlanEvent> events;
+    std::string error;
+};
+// One line of a plan's text into the reading: a deduction, a term or else an event. False where
+// it is wrong; the first wrong line's reason is kept.
+bool readPlanLine(std::string_view line, std::int64_t paymentCount, ScenarioReading& reading);
+ScenarioReading readScenario(const Scenario& scenario, std::int64_t paymentCount);
+
+// The scenarios of a document worked out side by side, then the loan without events (on the
+// first scenario's terms and deduction).
+struct ComparedPlan {
+    std::string name;
+    std::optional<PlanOutcome> outcome; // none where a line is wrong or the plan is refused
+};
+std::vector<ComparedPlan> comparePlans(const PlanDocument& document);
+
+// What the comparison shows of each plan, in its order.
+enum class Measure { Payments, Payoff, Paid, Interest, Fees, Deduction, NetCost, InterestSaved, NetSaving, BreakEven };
+constexpr int kMeasures = 10;
+// The measure of a plan as a number (a date as its day count); none for a break-even that isn't.
+std::optional<double> measureOf(const PlanOutcome& outcome, Measure measure);
+// The plans best in a measure: the fewest payments, the earliest pay-off or break-even, the least
+// paid, interest, fees and net cost, the most deduction and saving. None where all are equal.
+std::vector<std::size_t> bestIn(const std::vector<ComparedPlan>& plans, Measure measure);
 
 } // namespace engine

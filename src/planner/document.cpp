@@ -58,10 +58,10 @@ bool Document::saveTo(const QString& path) {
 
 bool Document::maySave() {
     if (m_path.isEmpty() || !m_window->isWindowModified()) return true;
-    const auto answer = QMessageBox::question(
-        m_window, strings::text(strings::kAppName),
-        strings::text(strings::kSaveChanges).arg(QFileInfo(m_path).fileName()),
-        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    const auto answer =
+        QMessageBox::question(m_window, strings::text(strings::kAppName),
+                              strings::text(strings::kSaveChanges).arg(QFileInfo(m_path).fileName()),
+                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
@@ -73,8 +73,9 @@ void Document::open(const QStringList& paths, QWidget* parent) {
         if (error.empty()) read = engine::readDocument(text);
         if (error.empty()) error = read.error;
         if (!error.empty()) {
-            warn(parent, strings::text(strings::kOpenFailed).arg(QDir::toNativeSeparators(path),
-                                                                QString::fromStdString(error)));
+            warn(
+                parent,
+                strings::text(strings::kOpenFailed).arg(QDir::toNativeSeparators(path), QString::fromStdString(error)));
             continue;
         }
         auto* window = new shell::MainWindow;

@@ -70,6 +70,9 @@ them into the form. No field corrections are applied. Each option is given as
                      events of its first scenario; the other options override the form and add
                      to the scenario
   --scenario NAME    with --plan, the scenario of that name
+  --compare          the figures of every scenario (the one the options make and, with --plan,
+                     the document's others) beside the loan without events, the best of each
+                     row marked with a star
   --save-plan FILE   write the plan of the other options to FILE as a plan document that
                      Kestrune opens, instead of printing it
   --events FILE|-    events one a line, as "prepay 12 1000000 reduce every 12", "rate 61 1.5",
@@ -236,6 +239,47 @@ std::string readEventsFile(const std::string& name, std::istream& in, std::vecto
     return {};
 }
 
+// Every scenario of the document and the loan without events side by side, a column each, the
+// best values of each row marked with a star (in JSON, named by their columns).
+void printComparison(const engine::PlanDocument& document, int format, std::ostream& out) {
+    const std::vector<engine::ComparedPlan> plans = engine::comparePlans(document);
+    const char* const names[engine::kMeasures] = {
+        "payments",  "payoff",   "paid",           "interest",   "fees",
+        "deduction", "net cost", "interest saved", "net saving", "break-even payment"};
+    table::Cells header{"Measure"};
+    for (const engine::ComparedPlan& plan : plans) header.push_back(plan.name.empty() ? "Without events" : plan.name);
+    std::vector<table::Cells> rows;
+    std::vector<table::Cells> best;
+    for (int m = 0; m < engine::kMeasures; ++m) {
+        const std::vector<std::size_t> bestColumns = engine::bestIn(plans, static_cast<engine::Measure>(m));
+        table::Cells& row = rows.emplace_back(table::Cells{names[m]});
+        row[0][0] = static_cast<char>(std::toupper(static_cast<unsigned char>(row[0][0])));
+        table::Cells& bestNames = best.emplace_back();
+        for (const std::size_t column : bestColumns) bestNames.push_back(header[column + 1]);
+        for (std::size_t i = 0; i < plans.size(); ++i) {
+            if (!plans[i].outcome) {
+                row.emplace_back("refused");
+                continue;
+            }
+            const TotalLines lines = totalLines(*plans[i].outcome, true, document.form.era, false, true);
+            std::string value;
+            for (const auto* part : {&lines.totals, &lines.savings})
+                for (const auto& [name, text] : *part)
+                    if (name == names[m]) value = text;
+            const bool isBest = std::find(bestColumns.begin(), bestColumns.end(), i) != bestColumns.end();
+            row.push_back(value + (format != 3 && isBest ? " *" : ""));
+        }
+    }
+    switch (format) {
+    case 0: printAligned(header, rows, 1, out); break;
+    case 1: out << table::toTsv({header}) << table::toTsv(rows); break;
+    case 2: out << table::toCsv({header}) << table::toCsv(rows); break;
+    default:
+        out << "{\"header\": " << jsonArray(header) << ", \"rows\": " << jsonArrays(rows)
+            << ", \"best\": " << jsonArrays(best) << "}\n";
+    }
+}
+
 } // namespace
 
 int runScheduleCommand(const std::vector<std::string>& args, const calendar::Date& today, std::istream& in,
@@ -247,7 +291,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     std::optional<std::string> year;
     int format = 0;
     int method = 1;
-    bool showTotals = false, byYear = false;
+    bool showTotals = false, byYear = false, compare = false;
+    std::vector<engine::Scenario> otherScenarios; // of a plan document, with --compare
     std::vector<std::string> eventLines;
     // Events and terms given as options become the lines of a plan's text.
     const std::map<std::string, std::string> eventKinds{{"--prepay", "prepay"},     {"--rate-change", "rate"},
@@ -293,6 +338,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         year = form.date.year;
         method = form.flatPayment ? 0 : 1;
         scenarioTitle = chosen->name;
+        for (const engine::Scenario& other : scenarios)
+            if (&other != &*chosen) otherScenarios.push_back(other);
         eventLines = chosen->terms;
         if (chosen->deduction) eventLines.push_back(*chosen->deduction);
         eventLines.insert(eventLines.end(), chosen->events.begin(), chosen->events.end());
@@ -326,8 +373,8 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
             eventLines.push_back(line);
             continue;
         }
-        if (option == "--totals" || option == "--by-year") {
-            (option == "--totals" ? showTotals : byYear) = true;
+        if (option == "--totals" || option == "--by-year" || option == "--compare") {
+            (option == "--totals" ? showTotals : option == "--by-year" ? byYear : compare) = true;
             continue;
         }
         const bool known = texts.contains(option) || choices.contains(option) || option == "--year" ||
@@ -370,32 +417,30 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
 
     if (eventLines.size() > engine::kMaxPlanLines)
         return usageError(err, "more than " + std::to_string(engine::kMaxPlanLines) + " events");
-    std::vector<engine::PlanEvent> events;
-    engine::LenderTerms terms;
-    std::optional<engine::TaxDeduction> deduction;
-    for (const std::string& line : eventLines) {
-        if (const engine::TermReading read = engine::readDeduction(line, deduction); read.isTerm) {
-            if (!read.error.empty()) return usageError(err, "bad term: " + read.error);
-            continue;
-        }
-        if (const engine::TermReading term = engine::readTerm(line, terms); term.isTerm) {
-            if (!term.error.empty()) return usageError(err, "bad term: " + term.error);
-            continue;
-        }
-        const auto reading = engine::readEvent(line, engine::readLoanForm(form).paymentCount);
-        if (!reading.event) return usageError(err, "bad event: " + reading.error);
-        events.push_back(*reading.event);
-    }
+    engine::ScenarioReading reading;
+    for (const std::string& line : eventLines)
+        if (!engine::readPlanLine(line, engine::readLoanForm(form).paymentCount, reading))
+            return usageError(err, reading.error);
+    const engine::LenderTerms& terms = reading.terms;
+    const std::optional<engine::TaxDeduction>& deduction = reading.deduction;
+    const std::vector<engine::PlanEvent>& events = reading.events;
+    engine::PlanDocument document{form, {{scenarioTitle, engine::termLines(terms), std::nullopt, {}}}};
+    engine::Scenario& scenario = document.scenarios.front();
+    if (deduction) scenario.deduction = engine::deductionLine(*deduction);
+    for (const engine::PlanEvent& e : events) scenario.events.push_back(engine::eventLine(e));
     if (savePlan) {
-        engine::Scenario scenario{scenarioTitle, engine::termLines(terms), std::nullopt, {}};
-        if (deduction) scenario.deduction = engine::deductionLine(*deduction);
-        for (const engine::PlanEvent& e : events) scenario.events.push_back(engine::eventLine(e));
-        const std::string text = engine::documentText({form, {scenario}});
-        if (const std::string problem = runtime::saveWhole(*savePlan, text); !problem.empty()) {
+        if (const std::string problem = runtime::saveWhole(*savePlan, engine::documentText(document));
+            !problem.empty()) {
             err << "kestrune-schedule: cannot save the plan to " << runtime::excerpt(*savePlan) << ": " << problem
                 << '\n';
             return 1;
         }
+        return 0;
+    }
+    if (compare) {
+        // The document's other scenarios beside the one the options make.
+        document.scenarios.insert(document.scenarios.end(), otherScenarios.begin(), otherScenarios.end());
+        printComparison(document, format, out);
         return 0;
     }
     const bool plan = !events.empty() || showTotals || byYear;

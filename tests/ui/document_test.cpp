@@ -68,7 +68,8 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
 
 TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {
     QTemporaryDir dir;
-    std::ofstream(dir.filePath("damaged.kestrune").toStdString()) << "{\"format\": \"kestrune-plan\",\n  \"version\": x";
+    std::ofstream(dir.filePath("damaged.kestrune").toStdString())
+        << "{\"format\": \"kestrune-plan\",\n  \"version\": x";
     planner::Document::open({dir.filePath("damaged.kestrune"), dir.filePath("none.kestrune")}, w);
     QStringList said;
     for (QMessageBox* box : w->findChildren<QMessageBox*>()) said << box->text();
