@@ -588,5 +588,40 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <comment>No deduction: the term is shorter than ten years	No deduction from %1: the term is now shorter than ten years	The deduction&apos;s rate, cap or limit can&apos;t be read</comment>
         <translation>控除なし: 返済期間が10年未満です	%1 年から控除なし: 返済期間が10年未満になりました	控除率、借入限度額または控除上限が読めません</translation>
     </message>
+    <message>
+        <source>kScenarioLabel</source>
+        <comment>Scenari&amp;o:</comment>
+        <translation>シナリオ(&amp;O):</translation>
+    </message>
+    <message>
+        <source>kNewScenario</source>
+        <comment>&amp;New Scenario</comment>
+        <translation>新しいシナリオ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>kDuplicateScenario</source>
+        <comment>D&amp;uplicate</comment>
+        <translation>複製(&amp;U)</translation>
+    </message>
+    <message>
+        <source>kRenameScenario</source>
+        <comment>Rena&amp;me...</comment>
+        <translation>名前の変更(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>kDeleteScenario</source>
+        <comment>De&amp;lete Scenario</comment>
+        <translation>シナリオを削除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>kScenarioName</source>
+        <comment>Scenario %1</comment>
+        <translation>シナリオ %1</translation>
+    </message>
+    <message>
+        <source>kScenarioCopy</source>
+        <comment>%1 (copy)</comment>
+        <translation>%1 のコピー</translation>
+    </message>
 </context>
 </TS>

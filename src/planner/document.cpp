@@ -24,10 +24,51 @@ QString filter() { return strings::text(strings::kPlanFilter) + " (*.kestrune)";
 
 Document::Document(shell::MainWindow* window) : QObject(window), m_window(window) {}
 
-engine::PlanDocument Document::current() const {
-    engine::PlanDocument document{m_window->loanForm(), {m_window->planScenario()}};
-    document.scenarios.insert(document.scenarios.end(), m_others.begin(), m_others.end());
-    return document;
+engine::PlanDocument Document::current() const { return {m_window->loanForm(), scenarios()}; }
+
+std::vector<engine::Scenario> Document::scenarios() const {
+    std::vector<engine::Scenario> all = m_scenarios;
+    if (const PlanWindow* plan = m_window->planWindow()) {
+        all[m_shown] = plan->scenario();
+        all[m_shown].name = m_scenarios[m_shown].name;
+    }
+    return all;
+}
+
+void Document::show(std::size_t index) {
+    m_scenarios = scenarios();
+    m_shown = std::min(index, m_scenarios.size() - 1);
+    showStored();
+}
+
+void Document::showStored() {
+    if (PlanWindow* plan = m_window->planWindow()) plan->setScenario(m_scenarios[m_shown]);
+    emit scenariosChanged();
+    update();
+}
+
+void Document::addScenario(engine::Scenario scenario) {
+    m_scenarios = scenarios();
+    m_scenarios.push_back(std::move(scenario));
+    show(m_scenarios.size() - 1);
+}
+
+void Document::renameShown(const std::string& name) {
+    m_scenarios[m_shown].name = name;
+    emit scenariosChanged();
+    update();
+}
+
+void Document::removeShown() {
+    if (m_scenarios.size() < 2) return;
+    m_scenarios.erase(m_scenarios.begin() + static_cast<std::ptrdiff_t>(m_shown));
+    m_shown = m_shown > 0 ? m_shown - 1 : 0;
+    showStored();
+}
+
+void Document::attach(PlanWindow* plan) {
+    plan->setScenario(m_scenarios[m_shown]);
+    connect(plan, &PlanWindow::changed, this, &Document::update);
 }
 
 void Document::update() {
@@ -80,10 +121,8 @@ void Document::open(const QStringList& paths, QWidget* parent) {
         }
         auto* window = new shell::MainWindow;
         window->setForm(read.document->form);
-        const auto& scenarios = read.document->scenarios;
-        window->setPlanScenario(scenarios.front());
         Document* document = window->document();
-        document->m_others.assign(scenarios.begin() + 1, scenarios.end());
+        document->m_scenarios = read.document->scenarios;
         document->m_path = QFileInfo(path).absoluteFilePath();
         // What it would save now: the form as the window holds it once calculated.
         document->m_saved = engine::documentText(document->current());

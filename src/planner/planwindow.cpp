@@ -5,6 +5,7 @@
 #include "form/amountfields.h"
 #include "planner/cellsmodel.h"
 #include "planner/deductionbox.h"
+#include "planner/document.h"
 #include "planner/savefile.h"
 #include "planner/termsbox.h"
 #include "runtime/numbers.h"
@@ -26,6 +27,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineSeries>
@@ -171,6 +173,42 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     tabs->addTab(Chart, tabNames.value(2));
     for (int i = 0; i < 3; ++i) tabs->widget(i)->setAccessibleName(tabNames.value(i));
 
+    // The scenario bar: which scenario the window shows, and the commands on the list.
+    Scenarios = new QComboBox(this);
+    Scenarios->setObjectName("Scenarios");
+    Scenarios->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    planner::Document* document = main->document();
+    connect(Scenarios, &QComboBox::activated, document,
+            [document](int index) { document->show(static_cast<std::size_t>(index)); });
+    connect(document, &Document::scenariosChanged, this, &PlanWindow::showScenarioNames);
+    NewScenarioButton = button(strings::kNewScenario, [this, document] {
+        document->addScenario({text(strings::kScenarioName).arg(Scenarios->count() + 1).toStdString(), {}, {}, {}});
+    });
+    DuplicateButton = button(strings::kDuplicateScenario, [this, document] {
+        engine::Scenario copy = scenario();
+        copy.name = text(strings::kScenarioCopy).arg(Scenarios->currentText()).toStdString();
+        document->addScenario(copy);
+    });
+    RenameButton = button(strings::kRenameScenario, [this, document] {
+        bool given = false;
+        const QString name = QInputDialog::getText(this, strings::withoutMnemonic(strings::kRenameScenario),
+                                                   strings::withoutMnemonic(strings::kScenarioLabel), QLineEdit::Normal,
+                                                   Scenarios->currentText(), &given)
+                                 .simplified()
+                                 .left(static_cast<int>(engine::kMaxLineLength) / 10);
+        if (given && !name.isEmpty()) document->renameShown(name.toStdString());
+    });
+    DeleteScenarioButton = button(strings::kDeleteScenario, [document] { document->removeShown(); });
+    auto* scenarioLabel = new QLabel(text(strings::kScenarioLabel), this);
+    scenarioLabel->setBuddy(Scenarios);
+    auto* scenarioBar = new QHBoxLayout;
+    scenarioBar->addWidget(scenarioLabel);
+    scenarioBar->addWidget(Scenarios);
+    for (QPushButton* b : {NewScenarioButton, DuplicateButton, RenameButton, DeleteScenarioButton})
+        scenarioBar->addWidget(b);
+    scenarioBar->addStretch();
+    showScenarioNames();
+
     auto* eventButtons = new QVBoxLayout;
     eventButtons->addWidget(AddButton);
     eventButtons->addWidget(RemoveButton);
@@ -192,6 +230,7 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     for (QPushButton* b : {CopyButton, CsvButton, PrintButton, PdfButton}) bottom->addWidget(b);
     bottom->addStretch();
     auto* layout = new QVBoxLayout(this);
+    layout->addLayout(scenarioBar);
     layout->addLayout(top, 2);
     layout->addWidget(tabs, 5);
     layout->addLayout(bottom);
@@ -449,6 +488,15 @@ void PlanWindow::removeEvents() {
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     for (auto it = rows.rbegin(); it != rows.rend(); ++it) Events->removeRow(*it);
     recalculate();
+}
+
+void PlanWindow::showScenarioNames() {
+    const planner::Document* document = m_main->document();
+    const QSignalBlocker blocker(Scenarios);
+    Scenarios->clear();
+    for (const engine::Scenario& s : document->scenarios()) Scenarios->addItem(qs(s.name));
+    Scenarios->setCurrentIndex(static_cast<int>(document->shown()));
+    DeleteScenarioButton->setEnabled(Scenarios->count() > 1);
 }
 
 // The line of a row of the list, as its cells hold it.

@@ -12,6 +12,7 @@
 #include <QWidget>
 
 class QChartView;
+class QComboBox;
 class QFormLayout;
 class QLabel;
 class QPushButton;
@@ -61,6 +62,9 @@ public:
     // net cost and the deduction lost where there is a deduction.
     std::vector<QLabel*> Figures;
     QPushButton *AddButton, *RemoveButton, *CopyButton, *CsvButton, *PrintButton, *PdfButton;
+    // The scenarios of the document, the one shown chosen; each has its own terms and events.
+    QComboBox* Scenarios;
+    QPushButton *NewScenarioButton, *DuplicateButton, *RenameButton, *DeleteScenarioButton;
 
 signals:
     // The plan was calculated anew: its events, terms or deduction, or its loan, changed.
@@ -77,6 +81,7 @@ private:
     std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount, std::optional<int> refusedRow = {});
     void markRow(int row, const QString& why);
     QString rowLine(int row) const;
+    void showScenarioNames();
     void appendRow(const std::string& line);
     void showFigures(const engine::PlanOutcome& outcome, int era);
     void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);

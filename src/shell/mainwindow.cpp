@@ -424,23 +424,12 @@ void MainWindow::CulcButton_Action() {
     emit calculated();
 }
 
-engine::Scenario MainWindow::planScenario() const {
-    if (!m_plan) return m_scenario;
-    engine::Scenario scenario = m_plan->scenario();
-    scenario.name = m_scenario.name;
-    return scenario;
-}
-
-void MainWindow::setPlanScenario(const engine::Scenario& scenario) {
-    m_scenario = scenario;
-    if (m_plan) m_plan->setScenario(scenario);
-}
+planner::PlanWindow* MainWindow::planWindow() const { return m_plan; }
 
 void MainWindow::showPlan() {
     if (!m_plan) {
         m_plan = new planner::PlanWindow(this);
-        m_plan->setScenario(m_scenario);
-        connect(m_plan, &planner::PlanWindow::changed, m_document, &planner::Document::update);
+        m_document->attach(m_plan);
     }
     m_plan->show();
     m_plan->raise();

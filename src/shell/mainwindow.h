@@ -25,7 +25,6 @@
 
 #include "calendar/datefields.h"
 #include "engine/calculation.h"
-#include "engine/document.h"
 #include "table/rows.h"
 
 #include <QLabel>
@@ -63,9 +62,8 @@ public:
 
     // The Plan window of this window, opened or raised.
     void showPlan();
-    // The scenario its Plan window holds (as the window was left, or as set before it opened).
-    engine::Scenario planScenario() const;
-    void setPlanScenario(const engine::Scenario& scenario);
+    // Its Plan window, none until it is first opened.
+    planner::PlanWindow* planWindow() const;
     // The plan document the window shows, and its title: the document's name with the modified
     // mark where it has a file, then the method.
     planner::Document* document() const { return m_document; }
@@ -204,7 +202,6 @@ private:
     int m_actionRuns = 0;
     QPointer<QWidget> m_lastFocusedControl;
     QPointer<planner::PlanWindow> m_plan;
-    engine::Scenario m_scenario{"Plan", {}, {}, {}}; // while no Plan window holds it
     planner::Document* m_document;
     QString m_methodTitle;
 };

@@ -7,8 +7,12 @@
 #include "planner/planwindow.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -18,12 +22,16 @@ namespace {
 
 using namespace uitest;
 
-// Answers the next modal dialog: a file dialog with the file, a question with the button.
-void answer(const QString& file, QMessageBox::StandardButton button = QMessageBox::NoButton) {
-    QTimer::singleShot(0, [file, button] {
+// Answers the next modal dialog: a file dialog with the file, a text with the text, a question
+// with the button.
+void answer(const QString& text, QMessageBox::StandardButton button = QMessageBox::NoButton) {
+    QTimer::singleShot(0, [text, button] {
         if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-            dialog->selectFile(file);
+            dialog->selectFile(text);
             QMetaObject::invokeMethod(dialog, "accept");
+        } else if (auto* input = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
+            input->setTextValue(text);
+            input->accept();
         } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             box->button(button)->click();
         }
@@ -48,7 +56,8 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     MainWindow* opened = newestWindow();
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(opened->loanForm(), w->loanForm());
-    EXPECT_TRUE(opened->planScenario() == (engine::Scenario{"Plan", {"rounding down"}, {}, {"fee 1 10"}}));
+    EXPECT_TRUE((opened->document()->scenarios() ==
+                 std::vector<engine::Scenario>{{"Plan", {"rounding down"}, {}, {"fee 1 10"}}}));
     EXPECT_FALSE(opened->isWindowModified());
     opened->close();
     showActive(w);
@@ -64,6 +73,37 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     EXPECT_TRUE(w->close());
     std::ifstream saved(dir.filePath("plan.kestrune").toStdString());
     EXPECT_NE(std::string(std::istreambuf_iterator<char>(saved), {}).find("\"times\": \"12\""), std::string::npos);
+}
+
+TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents) {
+    setForm(loan2020());
+    w->showPlan();
+    auto* plan = w->findChild<planner::PlanWindow*>();
+    showActive(plan);
+    const auto paste = [plan](const char* lines) {
+        QGuiApplication::clipboard()->setText(lines);
+        plan->pasteEvents();
+    };
+    paste("fee 1 10\n");
+    QTest::mouseClick(plan->NewScenarioButton, Qt::LeftButton);
+    EXPECT_EQ(plan->Scenarios->currentText(), "Scenario 2");
+    EXPECT_EQ(plan->Events->rowCount(), 0);
+    paste("fee 2 20\n");
+    QTest::mouseClick(plan->DuplicateButton, Qt::LeftButton);
+    answer("Later");
+    QTest::mouseClick(plan->RenameButton, Qt::LeftButton);
+    QTest::keyClick(plan->Scenarios, Qt::Key_Home);
+    EXPECT_EQ(plan->Events->item(0, 2)->text(), "10") << "the first scenario's events back";
+    EXPECT_TRUE((w->document()->scenarios() == std::vector<engine::Scenario>{{"Plan", {}, {}, {"fee 1 10"}},
+                                                                             {"Scenario 2", {}, {}, {"fee 2 20"}},
+                                                                             {"Later", {}, {}, {"fee 2 20"}}}));
+    QTest::keyClick(plan->Scenarios, Qt::Key_End);
+    QTest::mouseClick(plan->DeleteScenarioButton, Qt::LeftButton);
+    QStringList names;
+    for (int i = 0; i < plan->Scenarios->count(); ++i) names << plan->Scenarios->itemText(i);
+    EXPECT_EQ(names, (QStringList{"Plan", "Scenario 2"}));
+    EXPECT_EQ(plan->Scenarios->currentText(), "Scenario 2");
+    EXPECT_EQ(plan->Events->item(0, 2)->text(), "20");
 }
 
 TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {
