@@ -434,11 +434,6 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>PDF に書き出し(&amp;E)...</translation>
     </message>
     <message>
-        <source>kTabs</source>
-        <comment>Schedule	Years	Chart</comment>
-        <translation>返済表	年ごと	グラフ</translation>
-    </message>
-    <message>
         <source>kYearsMonths</source>
         <comment>%1 (%2 years %3 months)</comment>
         <translation>%1（%2 年 %3 か月）</translation>
@@ -622,6 +617,26 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <source>kScenarioCopy</source>
         <comment>%1 (copy)</comment>
         <translation>%1 のコピー</translation>
+    </message>
+    <message>
+        <source>kTabs</source>
+        <comment>Schedule	Years	Chart	Compare</comment>
+        <translation>返済表	年ごと	グラフ	比較</translation>
+    </message>
+    <message>
+        <source>kMeasure</source>
+        <comment>Measure</comment>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>kWithoutEvents</source>
+        <comment>Without events</comment>
+        <translation>イベントなし</translation>
+    </message>
+    <message>
+        <source>kRefused</source>
+        <comment>refused</comment>
+        <translation>計算できません</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/cellsmodel.h"
 
+#include <QFont>
+
 namespace planner {
 
 void CellsModel::setRows(QStringList headings, std::size_t count, RowTexts rowTexts) {
@@ -9,6 +11,11 @@ void CellsModel::setRows(QStringList headings, std::size_t count, RowTexts rowTe
     m_count = count;
     m_rowTexts = std::move(rowTexts);
     endResetModel();
+}
+
+void CellsModel::setMarked(std::set<std::pair<int, int>> cells) {
+    m_marked = std::move(cells);
+    if (m_count > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::FontRole});
 }
 
 std::vector<table::Cells> CellsModel::all() const {
@@ -30,6 +37,11 @@ QVariant CellsModel::data(const QModelIndex& index, int role) const {
         const table::Cells row = m_rowTexts(static_cast<std::size_t>(index.row()));
         if (static_cast<std::size_t>(index.column()) < row.size())
             return QString::fromStdString(row[static_cast<std::size_t>(index.column())]);
+    }
+    if (role == Qt::FontRole && m_marked.contains({index.row(), index.column()})) {
+        QFont bold;
+        bold.setBold(true);
+        return bold;
     }
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter |

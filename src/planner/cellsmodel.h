@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <set>
 
 namespace planner {
 
@@ -23,6 +24,8 @@ public:
     // Every row, headings first: what is copied and saved.
     std::vector<table::Cells> all() const;
     const QStringList& headings() const { return m_headings; }
+    // Cells (row, column) shown in bold.
+    void setMarked(std::set<std::pair<int, int>> cells);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -34,6 +37,7 @@ private:
     QStringList m_headings;
     std::size_t m_count = 0;
     RowTexts m_rowTexts;
+    std::set<std::pair<int, int>> m_marked;
 };
 
 } // namespace planner

@@ -46,6 +46,7 @@
 #include <QToolTip>
 #include <QValueAxis>
 
+#include <set>
 #include <sstream>
 
 namespace planner {
@@ -163,15 +164,23 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     Schedule = tableView(m_schedule, "Schedule");
     Schedule->installEventFilter(this); // Copy takes its selected rows
     Years = tableView(m_years, "Years");
+    m_comparison = new CellsModel(1, this);
+    Comparison = tableView(m_comparison, "Comparison");
     Chart = new QChartView(this);
     Chart->setRenderHint(QPainter::Antialiasing);
     const QStringList tabNames = strings::fields(strings::kTabs, '\t');
     auto* tabs = new QTabWidget(this);
+    m_tabs = tabs;
     tabs->setAccessibleName(tabNames.join(", "));
     tabs->addTab(Schedule, tabNames.value(0));
     tabs->addTab(Years, tabNames.value(1));
     tabs->addTab(Chart, tabNames.value(2));
-    for (int i = 0; i < 3; ++i) tabs->widget(i)->setAccessibleName(tabNames.value(i));
+    tabs->addTab(Comparison, tabNames.value(3));
+    for (int i = 0; i < 4; ++i) tabs->widget(i)->setAccessibleName(tabNames.value(i));
+    // The comparison works out every scenario: only while it is shown.
+    connect(tabs, &QTabWidget::currentChanged, this, [this] {
+        if (m_tabs->currentWidget() == Comparison) showComparison();
+    });
 
     // The scenario bar: which scenario the window shows, and the commands on the list.
     Scenarios = new QComboBox(this);
@@ -352,14 +361,41 @@ void PlanWindow::recalculate() {
     showFigures(outcome, form.era);
     drawChart(m_payments,
               outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
+    if (m_tabs->currentWidget() == Comparison) showComparison();
     emit changed();
 }
 
 void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
-    if (outcome.refusal != engine::Refusal::None) {
-        for (QLabel* figure : Figures) figure->clear();
-        return;
+    const QStringList values = outcome.refusal == engine::Refusal::None ? figureTexts(outcome, era) : QStringList();
+    for (std::size_t i = 0; i < Figures.size(); ++i) Figures[i]->setText(values.value(static_cast<int>(i)));
+}
+
+void PlanWindow::showComparison() {
+    const engine::PlanDocument document = m_main->document()->current();
+    const std::vector<engine::ComparedPlan> plans = engine::comparePlans(document);
+    const QStringList names = strings::fields(strings::kTotalNames, '\t');
+    // The figures of each measure, by their place among the totals'.
+    const int figureOf[engine::kMeasures] = {0, 5, 1, 2, 4, 11, 12, 6, 8, 9};
+    QStringList headings{text(strings::kMeasure)};
+    auto rows = std::make_shared<std::vector<table::Cells>>(engine::kMeasures);
+    std::set<std::pair<int, int>> best;
+    for (int m = 0; m < engine::kMeasures; ++m) {
+        (*rows)[static_cast<std::size_t>(m)].push_back(names.value(figureOf[m]).toStdString());
+        for (const std::size_t column : engine::bestIn(plans, static_cast<engine::Measure>(m)))
+            best.emplace(m, static_cast<int>(column) + 1);
     }
+    for (const engine::ComparedPlan& plan : plans) {
+        headings << (plan.name.empty() ? text(strings::kWithoutEvents) : qs(plan.name));
+        const QStringList figures = plan.outcome ? figureTexts(*plan.outcome, document.form.era) : QStringList();
+        for (int m = 0; m < engine::kMeasures; ++m)
+            (*rows)[static_cast<std::size_t>(m)].push_back(
+                (plan.outcome ? figures.value(figureOf[m]) : text(strings::kRefused)).toStdString());
+    }
+    m_comparison->setRows(headings, rows->size(), [rows](std::size_t row) { return (*rows)[row]; });
+    m_comparison->setMarked(std::move(best));
+}
+
+QStringList PlanWindow::figureTexts(const engine::PlanOutcome& outcome, int era) const {
     const auto amount = [](double value) { return qs(runtime::Format(value, table::kAmountMask)); };
     const calendar::PayoffWords words = m_main->payoffWords();
     const auto date = [&](const calendar::Date& d) { return qs(calendar::payoffText(d, era, words)); };
@@ -383,7 +419,7 @@ void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
                               amount(totals.deduction),
                               amount(totals.netCost),
                               amount(savings.deductionLost)};
-    for (std::size_t i = 0; i < Figures.size(); ++i) Figures[i]->setText(values[i]);
+    return QStringList(std::begin(values), std::end(values));
 }
 
 void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base) {

@@ -19,6 +19,7 @@ class QPushButton;
 class QTableView;
 class QPagedPaintDevice;
 class QTableWidget;
+class QTabWidget;
 
 namespace shell {
 class MainWindow;
@@ -57,6 +58,8 @@ public:
     QTableWidget* Events;
     QTableView* Schedule;
     QTableView* Years;
+    // Every scenario and the loan without events side by side, the best of each measure in bold.
+    QTableView* Comparison;
     QChartView* Chart;
     // Totals, then savings, then the unpaid interest paid under reviews, then the deduction, the
     // net cost and the deduction lost where there is a deduction.
@@ -84,6 +87,9 @@ private:
     void showScenarioNames();
     void appendRow(const std::string& line);
     void showFigures(const engine::PlanOutcome& outcome, int era);
+    // The figures of a plan as the window shows them, in the order of Figures.
+    QStringList figureTexts(const engine::PlanOutcome& outcome, int era) const;
+    void showComparison();
     void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
     void print();
     // Paints the report with a progress dialog that can cancel it.
@@ -92,6 +98,8 @@ private:
     QPointer<shell::MainWindow> m_main;
     CellsModel* m_schedule;
     CellsModel* m_years;
+    CellsModel* m_comparison;
+    QTabWidget* m_tabs;
     QFormLayout* m_figures;
     std::vector<engine::Payment> m_payments;
     table::PlanColumns m_columns; // as the terms have them

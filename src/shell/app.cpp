@@ -55,10 +55,13 @@ void App::createApplicationActions() {
     const QKeySequence quit(QKeySequence::Quit);
     m_fileQuit->setShortcut(quit.isEmpty() ? QKeySequence(Qt::CTRL | Qt::Key_Q) : quit);
     m_fileQuit->setMenuRole(QAction::QuitRole);
-    // Every window closes (each hides the help window as it goes), then the application ends,
-    // also where no window was open.
-    connect(m_fileQuit, &QAction::triggered, this, [] {
+    // Every window closes (each hides the help window as it goes, each changed document asks),
+    // then the application ends, also where no window was open.
+    connect(m_fileQuit, &QAction::triggered, this, [this] {
         QApplication::closeAllWindows();
+        // A window whose changed document the user kept (Cancel) stays open, and so does the program.
+        for (const MainWindow* window : mainWindows())
+            if (window->isVisible()) return;
         QApplication::quit();
     });
 }

@@ -12,10 +12,13 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -97,6 +100,29 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     EXPECT_TRUE((w->document()->scenarios() == std::vector<engine::Scenario>{{"Plan", {}, {}, {"fee 1 10"}},
                                                                              {"Scenario 2", {}, {}, {"fee 2 20"}},
                                                                              {"Later", {}, {}, {"fee 2 20"}}}));
+    // Compared, as the tool compares the saved document: the same figures, the best in bold where it stars them.
+    QTemporaryDir dir;
+    ASSERT_TRUE(w->document()->saveTo(dir.filePath("plan.kestrune")));
+    plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Comparison);
+    std::string printed;
+    FILE* pipe =
+        popen((KESTRUNE_SCHEDULE " --compare --format tsv --plan " + dir.filePath("plan.kestrune")).toUtf8(), "r");
+    for (int c; (c = std::fgetc(pipe)) != EOF;) printed += static_cast<char>(c);
+    pclose(pipe);
+    const QAbstractItemModel* compared = plan->Comparison->model();
+    QString shown = "Measure\tPlan\tScenario 2\tLater\tWithout events\n";
+    for (int r = 1; r < compared->rowCount(); ++r) {
+        shown += compared->index(r, 0).data().toString().replace("Total p", "P").replace("Total i", "I");
+        for (int c = 1; c < compared->columnCount(); ++c)
+            shown += "\t" + compared->index(r, c).data().toString() +
+                     (compared->index(r, c).data(Qt::FontRole).value<QFont>().bold() ? " *" : "");
+        shown += "\n";
+    }
+    QString tool = QString::fromStdString(printed).replace(" )", ")");
+    tool.remove(tool.indexOf("\nPayments"), tool.indexOf("\nPayoff") - tool.indexOf("\nPayments")); // row 0 below
+    tool.replace("Payoff", "Pay off");
+    EXPECT_EQ(shown, tool);
+    EXPECT_EQ(compared->index(0, 1).data().toString(), "144");
     QTest::keyClick(plan->Scenarios, Qt::Key_End);
     QTest::mouseClick(plan->DeleteScenarioButton, Qt::LeftButton);
     QStringList names;

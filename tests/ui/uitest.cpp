@@ -14,7 +14,9 @@ void showActive(QWidget* window) {
 }
 
 void closeAllWindows() {
-    // Main windows and the help window delete themselves on closing.
+    // Main windows and the help window delete themselves on closing; a changed document asks
+    // nothing here.
+    for (MainWindow* window : shell::App::instance()->mainWindows()) window->setWindowModified(false);
     QApplication::closeAllWindows();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
