@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
@@ -51,6 +52,9 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     answer(dir.filePath("plan.kestrune"));
     QTest::keyClick(w, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(w->windowTitle(), "plan.kestrune[*] — Equal principal Culc");
+    QStringList items;
+    for (const QAction* item : w->menuBar()->findChild<QMenu*>("FileMenu")->actions()) items << item->text();
+    EXPECT_EQ(items.join('|'), "&New|&Open...|Open &Recent||&Save|Save &As...||&Quit");
     EXPECT_FALSE(w->isWindowModified());
     // Opened again: the same form, terms and events in a window of its own.
     showActive(w);

@@ -242,6 +242,8 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     emit plan->Deduction->Rate->editingFinished();
     EXPECT_EQ(plan->Deduction->Note->text(), "The deduction's rate, cap or limit can't be read");
     EXPECT_EQ(figure(0), "") << "no figures of another plan";
+    plan->Deduction->Years->setValue(999);
+    EXPECT_EQ(plan->Deduction->Years->value(), 100) << "no more years than a deduction line takes";
     plan->Deduction->setChecked(false);
     EXPECT_TRUE(plan->Figures[11]->isHidden());
     EXPECT_EQ(plan->Years->model()->columnCount(), 9);

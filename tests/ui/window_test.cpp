@@ -145,6 +145,8 @@ TEST_F(WindowTest, AboutShowsTheVersionAndHidesOnClose) {
     shell::AboutWindow* about = App::instance()->aboutWindow();
     EXPECT_EQ(about->verName->text(), QString("Version ") + kestrune::kVersion);
     EXPECT_EQ(about->size(), QSize(300, 320));
+    QTest::mouseClick(about->urlMsg, Qt::RightButton);
+    EXPECT_TRUE(about->isVisible()) << "only a left click opens the address";
     QTest::mouseClick(about->PushButton1, Qt::LeftButton);
     EXPECT_FALSE(about->isVisible());
 }
