@@ -67,7 +67,11 @@ void Document::removeShown() {
 }
 
 void Document::attach(PlanWindow* plan) {
+    // Shown in the window, lines take the window's spelling ("deduction" becomes "deduction 0.7
+    // 13 30000000"); looking at a document changes nothing in it.
+    const bool unchanged = !m_window->isWindowModified();
     plan->setScenario(m_scenarios[m_shown]);
+    if (unchanged && !m_path.isEmpty()) m_saved = engine::documentText(current());
     connect(plan, &PlanWindow::changed, this, &Document::update);
 }
 
