@@ -42,6 +42,7 @@ TEST(Plan, EventLinesReadAndWrittenBack) {
         {"fee 3 -5", "negative amount: fee 3 -5"},
         {"rate 3 abc", "not a number: rate 3 abc"},
         {"prepay 3 100 sooner", "not an event: prepay 3 100 sooner"},
+        {"prepay 3 100 every 0", "every takes a count of payments from 1 to the count: prepay 3 100 every 0"},
         {"prepay 1 1000 every 421", "every takes a count of payments from 1 to the count: prepay 1 1000 every 421"},
         {"prepay 1 1000 every 922337203685477580700000",
          "every takes a count of payments from 1 to the count: prepay 1 1000 every 92233720368547758070..."},

@@ -45,7 +45,7 @@ void answer(const QString& text, QMessageBox::StandardButton button = QMessageBo
 TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     setForm(loan2020());
     w->showPlan();
-    QGuiApplication::clipboard()->setText("rounding down\nfee 1 10\n");
+    QGuiApplication::clipboard()->setText("rounding down\ndeduction\nfee 1 10\n");
     w->findChild<planner::PlanWindow*>()->pasteEvents();
     QTemporaryDir dir;
     showActive(w);
@@ -63,8 +63,10 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     MainWindow* opened = newestWindow();
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(opened->loanForm(), w->loanForm());
-    EXPECT_TRUE((opened->document()->scenarios() ==
-                 std::vector<engine::Scenario>{{"Plan", {"rounding down"}, {}, {"fee 1 10"}}}));
+    opened->showPlan();
+    EXPECT_TRUE(
+        (opened->document()->scenarios() ==
+         std::vector<engine::Scenario>{{"Plan", {"rounding down"}, "deduction 0.7 13 30000000", {"fee 1 10"}}}));
     EXPECT_FALSE(opened->isWindowModified());
     opened->close();
     showActive(w);
