@@ -246,8 +246,9 @@ void printComparison(const engine::PlanDocument& document, int format, std::ostr
     const char* const names[engine::kMeasures] = {
         "payments",  "payoff",   "paid",           "interest",   "fees",
         "deduction", "net cost", "interest saved", "net saving", "break-even payment"};
-    table::Cells header{"Measure"};
-    for (const engine::ComparedPlan& plan : plans) header.push_back(plan.name.empty() ? "Without events" : plan.name);
+    table::Cells header{std::string(strings::kMeasure.defaultText)};
+    for (const engine::ComparedPlan& plan : plans)
+        header.push_back(plan.name.empty() ? std::string(strings::kWithoutEvents.defaultText) : plan.name);
     std::vector<table::Cells> rows;
     std::vector<table::Cells> best;
     for (int m = 0; m < engine::kMeasures; ++m) {
@@ -258,7 +259,7 @@ void printComparison(const engine::PlanDocument& document, int format, std::ostr
         for (const std::size_t column : bestColumns) bestNames.push_back(header[column + 1]);
         for (std::size_t i = 0; i < plans.size(); ++i) {
             if (!plans[i].outcome) {
-                row.emplace_back("refused");
+                row.emplace_back(strings::kRefused.defaultText);
                 continue;
             }
             const TotalLines lines = totalLines(*plans[i].outcome, true, document.form.era, false, true);
