@@ -8,8 +8,6 @@
 
 #include <QClipboard>
 #include <QComboBox>
-#include <QFileDialog>
-#include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -17,7 +15,6 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <cstdio>
 #include <fstream>
@@ -25,22 +22,6 @@
 namespace {
 
 using namespace uitest;
-
-// Answers the next modal dialog: a file dialog with the file, a text with the text, a question
-// with the button.
-void answer(const QString& text, QMessageBox::StandardButton button = QMessageBox::NoButton) {
-    QTimer::singleShot(0, [text, button] {
-        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-            dialog->selectFile(text);
-            QMetaObject::invokeMethod(dialog, "accept");
-        } else if (auto* input = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
-            input->setTextValue(text);
-            input->accept();
-        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            box->button(button)->click();
-        }
-    });
-}
 
 TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     setForm(loan2020());

@@ -2,8 +2,12 @@
 #include "uitest.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
 
 namespace uitest {
 
@@ -27,6 +31,20 @@ QAction* menuItem(QMainWindow* window, const char* name) {
             for (QAction* item : top->menu()->actions())
                 if (item->objectName() == name) return item;
     return nullptr;
+}
+
+void answer(const QString& text, QMessageBox::StandardButton button) {
+    QTimer::singleShot(0, [text, button] {
+        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+            dialog->selectFile(text);
+            QMetaObject::invokeMethod(dialog, "accept");
+        } else if (auto* input = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
+            input->setTextValue(text);
+            input->accept();
+        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            box->button(button)->click();
+        }
+    });
 }
 
 engine::LoanForm loan2020() {

@@ -13,6 +13,7 @@
 #include "strings/constants.h"
 
 #include <QMenu>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -54,6 +55,10 @@ void showActive(QWidget* window);
 void closeAllWindows();
 // The item of the window's menus with that object name (FileNew, EditCopy, ...); null if none.
 QAction* menuItem(QMainWindow* window, const char* name);
+
+// Answers the next modal dialog: a file dialog with the file, a text with the text, a question
+// with the button.
+void answer(const QString& text, QMessageBox::StandardButton button = QMessageBox::NoButton);
 
 // The default loan, borrowed on 2020-03-15 in the Western calendar: first payment 2020-04-08.
 engine::LoanForm loan2020();
