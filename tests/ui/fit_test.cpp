@@ -118,6 +118,9 @@ TEST(Fit, EveryControlStandsWhereTheDesignPutsIt) {
                std::to_string(r.x()) + " " + std::to_string(r.y()) + " " + std::to_string(r.width()) + " " +
                std::to_string(r.height()) + "\n";
     }
+    all += "columns";
+    for (int c = 0; c < 6; ++c) all += " " + std::to_string(w->ListBox1->columnWidth(c));
+    all += "\n";
     EXPECT_EQ(all, std::string("Rectangle1 82 114 48 22\n"
                                "Principal: 20 23 56 20\n"
                                "Rate: 190 23 38 20\n"
@@ -152,7 +155,8 @@ TEST(Fit, EveryControlStandsWhereTheDesignPutsIt) {
                                "StartDX 473 53 25 22\n"
                                "HelpBtn 479 21 80 22\n"
                                "DelayPop 390 53 80 22\n"
-                               "Method 0 0 100 30\n"));
+                               "Method 0 0 100 30\n"
+                               "columns 53 88 87 87 87 119\n"));
     closeAllWindows();
 }
 

@@ -194,7 +194,10 @@ TEST(PlanWindow, EveryMnemonicIsUniqueAndDialogsShowNoneInEachLanguage) {
 
 TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
-    ASSERT_EQ(plan->Events->rowCount(), 1);
+    QTest::keyClick(plan->Events, Qt::Key_Insert);
+    ASSERT_EQ(plan->Events->rowCount(), 2);
+    EXPECT_EQ(std::pair(plan->Events->currentRow(), plan->Events->currentColumn()), std::pair(1, 0)) << "its payment";
+    plan->Events->removeRow(1);
     // Typed into the cells: F2 edits, Return ends the edit.
     for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1,000,000"}, {4, "60"}}) {
         plan->Events->setCurrentCell(0, column);
