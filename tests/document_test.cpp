@@ -26,6 +26,7 @@ TEST(Document, ADamagedDocumentIsRefusedWithItsReason) {
         {"", "not JSON: an error at line 1, column 1"},
         {head + "\n  \"form\": {,}", "not JSON: an error at line 2, column 12"},
         {"[1]", "not a plan document"},
+        {R"({"format": "kestrune-plan", "version": -1e400})", "not JSON: a number too large to read"},
         {R"({"format": "kestrune-plan"})", "a plan document without a version it can read"},
         {R"({"format": "kestrune-plan", "version": 2})",
          "made by a newer Kestrune (format version 2; this one reads 1)"},

@@ -143,6 +143,10 @@ DocumentReading readDocument(std::string_view text) {
         const auto [line, column] = lineAndColumn(text, e.byte);
         return {std::nullopt,
                 "not JSON: an error at line " + std::to_string(line) + ", column " + std::to_string(column)};
+    } catch (const Json::exception&) {
+        // The one other failure of a parse: a number beyond a double, which nlohmann-json tells
+        // without its place.
+        return {std::nullopt, "not JSON: a number too large to read"};
     }
     if (!root.is_object() || root.value("format", Json()) != kFormat) return {std::nullopt, "not a plan document"};
     const Json version = root.value("version", Json());
