@@ -39,6 +39,8 @@ TEST(Deduction, LinesReadAndWrittenBack) {
     const std::pair<const char*, const char*> cases[] = {
         {"deduction", "deduction 0.7 13 30000000"},
         {"deduction 1 100", "deduction 1 100 30000000"},
+        {"deduction 1 1 9007199254740992", "deduction 1 1 9007199254740992"},
+        {"deduction 1 1 9007199254740994", ""},
         {"deduction 0.7 13 30,000,000 from 2025 limit 250,000", "deduction 0.7 13 30000000 from 2025 limit 250000"},
         {"deduction limit 1", "deduction 0.7 13 30000000 limit 1"},
         {"deduction 0.7 13.5", ""},
