@@ -181,7 +181,8 @@ TEST(ScheduleTool, APlanSavedAsADocumentAndReadBack) {
     const std::string file = std::filesystem::temp_directory_path() / ("kestrune-" + std::to_string(getpid()));
     const std::string plan = kPlan + "--interest monthly --deduction --bonus 100,000 --totals --by-year --format json ";
     ASSERT_EQ(run(plan + "--save-plan " + file + ".kestrune").status, 0);
-    EXPECT_EQ(run("--plan " + file + ".kestrune --totals --by-year --format json").out, run(plan).out);
+    EXPECT_EQ(run("--plan " + file + ".kestrune --totals --by-year --format json <&-").out, run(plan).out)
+        << "read also where standard input is closed, and the file takes its number";
     EXPECT_EQ(run("--plan=" + file + ".kestrune --times 5 --fee 5:1 --totals").out,
               run(kPlan + "--interest monthly --deduction --bonus 100,000 --times 5 --fee 5:1 --totals").out)
         << "options override the form and add events";
