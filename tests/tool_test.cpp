@@ -94,6 +94,9 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--deduction 1:x", 2,
          "kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" "
          "an amount, all at least 0: deduction 1 x 30000000\n"},
+        {"--deduction 1:2:3:2030:5:6", 2,
+         "kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" "
+         "an amount, all at least 0: deduction 1 2 3 from 2030 limit 5 6\n"},
         {"--prepay 1:1000:every=9223372036854775807", 2,
          "kestrune-schedule: bad event: every takes a count of payments from 1 to the count: prepay 1 1000 every "
          "9223372036854775807\n"},
@@ -288,7 +291,7 @@ TEST(ScheduleTool, TheTaxDeductionInTheTotalsAndYears) {
          "Principal\t20,000,000\nInterest\t483,272\nPrepaid\t10,000,000\nFees\t0\nDeduction\t1,365,700\n"
          "Net cost\t-882,428\nPayoff\t2048 / 4 / 8 \nInterest saved\t577,412\nDeduction lost\t850,600\n"
          "Payments saved\t143 (11 years 11 months)\nNet saving\t-273,188\nBreak-even payment\tno fees\n"},
-        {"25,000,000 --rate 0.5 --deduction=:::: --by-year --totals --format tsv",
+        {"25,000,000 --rate 0.5 --deduction=:::2025: --by-year --totals --format tsv",
          "Year\tEra year\tPayments\tAmount\tPrincipal\tInterest\tPrepaid\tFees\tDeduction\tBalance\n"
          "2025\t2025\t9\t700,884\t598,816\t102,068\t0\t0\t205,800\t29,401,184\n"
          "2026\t2026\t12\t934,512\t883,685\t50,827\t25,000,000\t0\t0\t3,517,499\n"
