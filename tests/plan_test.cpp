@@ -28,6 +28,17 @@ std::vector<PlanEvent> events(const std::vector<const char*>& lines, std::int64_
     return read;
 }
 
+TEST(Plan, TheBreakEvenPaymentIsTheOneWhoseSavingMeetsTheFees) {
+    LoanForm form = tinyLoan();
+    form.principal = "1,200,000";
+    form.rate = "1.5";
+    const auto base = calculate(form).payments, prepaid = calculate(form, {}, events({"prepay 1 600000"})).payments;
+    // The prepayment saves interest from payment 2 on: a fee of exactly that saving is earned back with it.
+    const double saved = base[1].interest - prepaid[1].interest;
+    const auto plan = events({"prepay 1 600000", ("fee 1 " + std::to_string(static_cast<long>(saved))).c_str()});
+    EXPECT_EQ(evaluatePlan(form, plan).savings.breakEven, 2);
+}
+
 TEST(Plan, EventLinesReadAndWrittenBack) {
     const std::pair<const char*, const char*> lines[] = {
         {"prepay 12 1,000,000 reduce every 12", "prepay 12 1000000 reduce every 12"},

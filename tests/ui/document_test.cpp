@@ -24,7 +24,9 @@ namespace {
 using namespace uitest;
 
 TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
-    setForm(loan2020());
+    engine::LoanForm form = loan2020();
+    form.delay = calendar::kTwoAfter;
+    setForm(form);
     w->showPlan();
     QGuiApplication::clipboard()->setText("rounding down\ndeduction\nfee 1 10\n");
     w->findChild<planner::PlanWindow*>()->pasteEvents();

@@ -148,7 +148,8 @@ TEST_F(PlanTest, EveryControlStandsWhereTheLayoutPutsIt) {
         QString name = c->objectName();
         if (const auto* label = qobject_cast<const QLabel*>(c)) name = label->text();
         if (const auto* button = qobject_cast<const QAbstractButton*>(c)) name = button->text();
-        if (name.isEmpty() && (qobject_cast<const QLineEdit*>(c) || qobject_cast<const QAbstractSpinBox*>(c)))
+        if (name.isEmpty() && (qobject_cast<const QLineEdit*>(c) || qobject_cast<const QAbstractSpinBox*>(c) ||
+                               qobject_cast<const QComboBox*>(c)))
             name = c->metaObject()->className();
         if (!c->isVisible() || name.isEmpty() || name.startsWith("qt_") || name.startsWith("Scroll")) continue;
         const QRect r(c->mapTo(plan, QPoint()), c->size());
@@ -156,23 +157,23 @@ TEST_F(PlanTest, EveryControlStandsWhereTheLayoutPutsIt) {
                std::to_string(r.width()) + " " + std::to_string(r.height()) + "; ";
     }
     EXPECT_EQ(all,
-              "Terms 11 39 650 92; &Interest: 23 68 51 22; Round amounts &down to the yen 428 69 221 20; "
-              "&Bonus part: 23 97 95 20; QLineEdit 124 96 104 22; QSpinBox 330 96 43 23; QSpinBox 379 96 43 23; "
-              "&Five-year and 125 % rules 428 97 221 20; Bonus months: 234 96 90 23; Deduction 667 39 453 121; "
-              "QLineEdit 806 68 58 22; QSpinBox 1033 68 75 23; QLineEdit 806 97 92 22; QSpinBox 970 97 138 23; "
-              "QLineEdit 806 126 302 22; % 870 68 75 23; Years: 951 68 76 23; First year: 904 97 60 23; "
-              "Rate: 679 68 32 23; Cap on the balance: 679 97 121 23; Limit: 679 126 34 22; Events 11 137 564 223; "
-              "&Add 581 137 80 22; &Remove 581 165 80 22; &Copy Schedule 11 727 98 22; "
-              "&Save Schedule as CSV... 115 727 152 22; &Print... 273 727 80 22; &Export as PDF... 359 727 102 22; "
-              "420 803 166 317 14; 38,566,138 803 186 317 14; 8,566,138 803 206 317 14; 0 803 226 317 14; "
-              "0 803 246 317 14; 2055 / 3 / 8  803 266 317 14; 0 803 286 317 14; "
-              "0 (0 years 0 months) 803 306 317 14; 0 803 326 317 14; no fees 803 346 317 14; "
-              "Schedule 13 392 1105 327; Scenarios 74 11 54 22; &New Scenario 134 11 91 22; "
-              "D&uplicate 231 11 80 22; Rena&me... 317 11 80 22; De&lete Scenario 403 11 104 22; "
-              "Scenari&o: 11 11 57 22; Payments: 667 166 63 14; Total paid: 667 186 62 14; "
-              "Total interest: 667 206 82 14; Total prepaid: 667 226 82 14; Fees: 667 246 32 14; "
-              "Pay off: 667 266 45 14; Interest saved: 667 286 90 14; Payments saved: 667 306 103 14; "
-              "Net saving: 667 326 69 14; Break-even payment: 667 346 130 14; ");
+              "Terms 11 39 650 92; QComboBox 80 68 342 22; &Interest: 23 68 51 22; "
+              "Round amounts &down to the yen 428 69 221 20; &Bonus part: 23 97 95 20; QLineEdit 124 96 104 22; "
+              "QSpinBox 330 96 43 23; QSpinBox 379 96 43 23; &Five-year and 125 % rules 428 97 221 20; "
+              "Bonus months: 234 96 90 23; Deduction 667 39 453 121; QLineEdit 806 68 58 22; "
+              "QSpinBox 1033 68 75 23; QLineEdit 806 97 92 22; QSpinBox 970 97 138 23; QLineEdit 806 126 302 22; "
+              "% 870 68 75 23; Years: 951 68 76 23; First year: 904 97 60 23; Rate: 679 68 32 23; "
+              "Cap on the balance: 679 97 121 23; Limit: 679 126 34 22; Events 11 137 564 223; &Add 581 137 80 22; "
+              "&Remove 581 165 80 22; &Copy Schedule 11 727 98 22; &Save Schedule as CSV... 115 727 152 22; "
+              "&Print... 273 727 80 22; &Export as PDF... 359 727 102 22; 420 803 166 317 14; "
+              "38,566,138 803 186 317 14; 8,566,138 803 206 317 14; 0 803 226 317 14; 0 803 246 317 14; "
+              "2055 / 3 / 8  803 266 317 14; 0 803 286 317 14; 0 (0 years 0 months) 803 306 317 14; "
+              "0 803 326 317 14; no fees 803 346 317 14; Schedule 13 392 1105 327; Scenarios 74 11 54 22; "
+              "&New Scenario 134 11 91 22; D&uplicate 231 11 80 22; Rena&me... 317 11 80 22; "
+              "De&lete Scenario 403 11 104 22; Scenari&o: 11 11 57 22; Payments: 667 166 63 14; "
+              "Total paid: 667 186 62 14; Total interest: 667 206 82 14; Total prepaid: 667 226 82 14; "
+              "Fees: 667 246 32 14; Pay off: 667 266 45 14; Interest saved: 667 286 90 14; "
+              "Payments saved: 667 306 103 14; Net saving: 667 326 69 14; Break-even payment: 667 346 130 14; ");
 }
 
 TEST(PlanWindow, EveryMnemonicIsUniqueAndDialogsShowNoneInEachLanguage) {
@@ -240,6 +241,7 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QStringList names;
     for (const QAbstractSeries* series : plan->Chart->chart()->series()) names << series->name();
     EXPECT_EQ(names.join('|'), "Balance|Balance without events|Interest paid|Interest paid without events");
+    EXPECT_EQ(plan->Chart->chart()->axes().size(), 2) << "the dates and the amounts";
     const QAbstractItemModel* rows = plan->Schedule->model();
     EXPECT_EQ(QString::number(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->at(0).y(), 'f', 0),
               rows->index(0, rows->columnCount() - 1).data().toString().remove(','))
@@ -326,8 +328,14 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
     EXPECT_EQ(message(plan), "");
-    EXPECT_NE(output("pdfimages -list " + dir.filePath("plan.pdf").toStdString()).find(" image "), std::string::npos)
-        << "the chart";
+    const QStringList image =
+        QString::fromStdString(output("pdfimages -list " + dir.filePath("plan.pdf").toStdString()))
+            .split('\n')
+            .value(2)
+            .simplified()
+            .split(' ');
+    EXPECT_EQ((image.mid(0, 5) + image.mid(12, 2)).join(' '), "1 0 image 1800 1000 225 226")
+        << "the chart on page 1, its pixels and the room they take";
     // Its lines joined, as the terms may wrap.
     std::string text = " " + pdfText(dir.filePath("plan.pdf"));
     std::replace(text.begin(), text.end(), '\n', ' ');
