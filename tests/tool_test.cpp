@@ -304,6 +304,14 @@ TEST(ScheduleTool, TheTaxDeductionInTheTotalsAndYears) {
          "Deduction note\tNo deduction from 2026: the term is now shorter than ten years\nInterest saved\t2,509,304\n"
          "Deduction lost\t2,030,100\nPayments saved\t353 (29 years 5 months)\nNet saving\t479,204\n"
          "Break-even payment\tno fees\n"},
+        // 19,000,000 prepaid in December 2025 leaves ten years; 4,000,000 more in January 2026 does not:
+        // no deduction from 2026, and 2025's kept.
+        {"0 --prepay 9:19,000,000 --prepay 10:4,000,000 --rate 0.5 --deduction --totals --last 0 --format tsv",
+         "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n\nPayments\t93\nPaid\t30,217,344\n"
+         "Principal\t7,000,000\nInterest\t217,344\nPrepaid\t23,000,000\nFees\t0\nDeduction\t72,800\nNet cost\t144,544\n"
+         "Payoff\t2032 / 12 / 8 \nDeduction note\tNo deduction from 2026: the term is now shorter than ten years\n"
+         "Interest saved\t2,479,119\nDeduction lost\t2,163,100\nPayments saved\t327 (27 years 3 months)\n"
+         "Net saving\t316,019\nBreak-even payment\tno fees\n"},
         // 119 payments: shorter than ten years from the start, with or without events.
         {"0 --rate 0.5 --times 119 --deduction --totals --last 0 --format tsv",
          "No.\tRepayment\tAmount\tPrincipal\tInterest\tPrepaid\tBalance\n\nPayments\t119\nPaid\t30,746,158\n"
