@@ -3,6 +3,7 @@
 
 #include "engine/deduction.h"
 #include "engine/plan.h"
+#include "runtime/files.h"
 
 #include <nlohmann/json.hpp>
 
@@ -178,6 +179,13 @@ DocumentReading readDocument(std::string_view text) {
     return {std::move(document), {}};
 }
 
+DocumentReading readDocumentFile(const std::string& path) {
+    std::string text;
+    if (std::string error = runtime::readWhole(path, kMaxDocumentBytes, text); !error.empty())
+        return {std::nullopt, std::move(error)};
+    return readDocument(text);
+}
+
 bool readPlanLine(std::string_view line, std::int64_t paymentCount, ScenarioReading& reading) {
     const auto wrong = [&reading](const std::string& why) {
         if (reading.error.empty()) reading.error = why;
@@ -203,20 +211,18 @@ ScenarioReading readScenario(const Scenario& scenario, std::int64_t paymentCount
 
 std::vector<ComparedPlan> comparePlans(const PlanDocument& document) {
     const std::int64_t count = readLoanForm(document.form).paymentCount;
-    std::vector<ComparedPlan> plans;
-    for (const Scenario& scenario : document.scenarios) {
+    const auto planOf = [&](const Scenario& scenario) -> ComparedPlan {
         const ScenarioReading read = readScenario(scenario, count);
         PlanOutcome outcome = evaluatePlan(document.form, read.events, read.terms, read.deduction);
-        plans.push_back({scenario.name, read.error.empty() && outcome.refusal == Refusal::None
-                                            ? std::optional(std::move(outcome))
-                                            : std::nullopt});
-    }
+        if (!read.error.empty() || outcome.refusal != Refusal::None) return {scenario.name, std::nullopt};
+        return {scenario.name, std::move(outcome)};
+    };
+    std::vector<ComparedPlan> plans;
+    for (const Scenario& scenario : document.scenarios) plans.push_back(planOf(scenario));
     Scenario without = document.scenarios.front();
+    without.name.clear();
     without.events.clear();
-    const ScenarioReading read = readScenario(without, count);
-    PlanOutcome outcome = evaluatePlan(document.form, {}, read.terms, read.deduction);
-    plans.push_back({"", read.error.empty() && outcome.refusal == Refusal::None ? std::optional(std::move(outcome))
-                                                                                : std::nullopt});
+    plans.push_back(planOf(without));
     return plans;
 }
 

@@ -48,6 +48,8 @@ struct DocumentReading {
     std::string error;
 };
 DocumentReading readDocument(std::string_view text);
+// The document of a file, or why it can't be read: the system's reason, its size, or the text's.
+DocumentReading readDocumentFile(const std::string& path);
 
 // A scenario's lines read: its terms, its deduction and its events, or why a line is wrong, as
 // "bad term: ..." or "bad event: ...".

@@ -3,7 +3,6 @@
 
 #include "planner/planwindow.h"
 #include "planner/savefile.h"
-#include "runtime/files.h"
 #include "shell/mainwindow.h"
 #include "strings/lookup.h"
 
@@ -112,15 +111,10 @@ bool Document::maySave() {
 
 void Document::open(const QStringList& paths, QWidget* parent) {
     for (const QString& path : paths) {
-        std::string text;
-        std::string error = runtime::readWhole(path.toStdString(), engine::kMaxDocumentBytes, text);
-        engine::DocumentReading read;
-        if (error.empty()) read = engine::readDocument(text);
-        if (error.empty()) error = read.error;
-        if (!error.empty()) {
-            warn(
-                parent,
-                strings::text(strings::kOpenFailed).arg(QDir::toNativeSeparators(path), QString::fromStdString(error)));
+        const engine::DocumentReading read = engine::readDocumentFile(path.toStdString());
+        if (!read.document) {
+            warn(parent, strings::text(strings::kOpenFailed)
+                             .arg(QDir::toNativeSeparators(path), QString::fromStdString(read.error)));
             continue;
         }
         auto* window = new shell::MainWindow;

@@ -9,10 +9,7 @@ class QWidget;
 
 namespace planner {
 
-// Writes the bytes through a temporary file beside the target, renamed over it only when every
-// byte is written, so that a failure (a full disk, a read-only folder) leaves no partial file and
-// an existing one as it was. A target that is not a regular file (a device, a pipe) can't be
-// renamed over and is written to directly. Why it failed, or an empty text.
+// The bytes saved whole or not at all (runtime::saveWhole); why it failed, or an empty text.
 QString saveWhole(const QString& path, const QByteArray& bytes);
 
 // A warning, shown without blocking the caller.

@@ -53,10 +53,13 @@ std::string saveWhole(const std::string& path, std::string_view text) {
     const int fd = ::mkstemp(temporary.data());
     if (fd < 0) return std::strerror(errno);
     int error = writeAll(fd, text);
-    // Readable as a file the user made is, not only by its owner as a temporary file is.
+    // The old file's permissions, or those of a new file the user made; not only its owner's, as
+    // a temporary file has.
     const mode_t mask = ::umask(0);
     ::umask(mask);
-    if (error == 0 && ::fchmod(fd, static_cast<mode_t>(0666 & ~mask)) != 0) error = errno;
+    const bool replaces = ::stat(path.c_str(), &target) == 0;
+    const auto mode = static_cast<mode_t>(replaces ? target.st_mode & 07777 : 0666 & ~mask);
+    if (error == 0 && ::fchmod(fd, mode) != 0) error = errno;
     if (error == 0 && ::fsync(fd) != 0) error = errno;
     if (::close(fd) != 0 && error == 0) error = errno;
     if (error == 0 && std::rename(temporary.c_str(), path.c_str()) != 0) error = errno;

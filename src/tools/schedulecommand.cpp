@@ -322,12 +322,9 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
     if (scenarioName && !planFile) return usageError(err, "--scenario goes with --plan");
     std::string scenarioTitle = "Plan";
     if (planFile) {
-        std::string text;
-        std::string problem = runtime::readWhole(*planFile, engine::kMaxDocumentBytes, text);
-        const engine::DocumentReading read = problem.empty() ? engine::readDocument(text) : engine::DocumentReading{};
-        if (problem.empty()) problem = read.error;
-        if (!problem.empty())
-            return usageError(err, "cannot read the plan " + runtime::excerpt(*planFile) + ": " + problem);
+        const engine::DocumentReading read = engine::readDocumentFile(*planFile);
+        if (!read.document)
+            return usageError(err, "cannot read the plan " + runtime::excerpt(*planFile) + ": " + read.error);
         const auto& scenarios = read.document->scenarios;
         const auto chosen = std::find_if(scenarios.begin(), scenarios.end(), [&](const engine::Scenario& s) {
             return !scenarioName || s.name == *scenarioName;

@@ -434,8 +434,8 @@ TEST_F(PlanTest, AFailedSaveIsToldAndLeavesNoPartOfAFile) {
     const Case cases[] = {
         {full.file("plan.csv"), false, "No space left on device", {}},
         {full.file("plan.pdf"), true, "No space left on device", {}},
-        {readOnly.file("plan.csv"), false, "is not writable", {"plan.csv", "plan.pdf"}},
-        {readOnly.file("plan.pdf"), true, "is not writable", {"plan.csv", "plan.pdf"}},
+        {readOnly.file("plan.csv"), false, "Read-only file system", {"plan.csv", "plan.pdf"}},
+        {readOnly.file("plan.pdf"), true, "Read-only file system", {"plan.csv", "plan.pdf"}},
         {full.file("full"), false, "No space left on device", {}},
     };
     for (const Case& c : cases) {
