@@ -61,8 +61,6 @@ TEST(ScheduleTool, PlansWithEventsTotalsAndYears) {
     const auto file = std::filesystem::temp_directory_path() / "kestrune-events.txt";
     std::ofstream(file) << "# refinancing\nrate 61 0.9\n\nfee\t61\t330000\n";
     const Result options = run("--rate-change 61:0.9 --fee=61:330000 --format json --last 0 " + loan);
-    EXPECT_NE(options.out.find("\"savings\": {\"interest saved\": \"2,684,758\""), std::string::npos) << options.out;
-    EXPECT_NE(options.out.find("\"break-even payment\": \"86 (2027 / 5 / 8 )\"}"), std::string::npos);
     EXPECT_EQ(options.out, run("--format json --last 0 --events " + file.string() + " " + loan).out);
     EXPECT_EQ(options.out, run("--format json --last 0 --events - " + loan + "< " + file.string()).out);
 }

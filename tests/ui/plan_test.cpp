@@ -295,7 +295,6 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     emit plan->Deduction->Rate->editingFinished();
     EXPECT_EQ(plan->Deduction->Note->text(), "The deduction's rate, cap or limit can't be read");
     EXPECT_EQ(figure(0), "") << "no figures of another plan";
-    EXPECT_EQ(plan->Deduction->Limit->placeholderText(), "the taxes paid, if any");
     plan->Deduction->Years->setValue(999);
     EXPECT_EQ(plan->Deduction->Years->value(), 100) << "no more years than a deduction line takes";
     plan->Deduction->setChecked(false);

@@ -145,7 +145,6 @@ TEST_F(WindowTest, AboutShowsTheVersionAndHidesOnClose) {
     shell::AboutWindow* about = App::instance()->aboutWindow();
     EXPECT_EQ(about->verName->text(), QString("Version ") + kestrune::kVersion);
     EXPECT_EQ(about->size(), QSize(300, 320));
-    EXPECT_EQ(about->Canvas1->geometry(), QRect(86, 4, 128, 128)) << "the icon, centred at the top";
     QTest::mouseClick(about->urlMsg, Qt::RightButton);
     EXPECT_TRUE(about->isVisible()) << "only a left click opens the address";
     QTest::mouseClick(about->PushButton1, Qt::LeftButton);
