@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// A read-only table of texts: the plan's schedule and its years. Each row's texts are made when the
+// A read-only table of texts: the plan's schedule, its years and the comparison. Each row's texts are made when the
 // view asks for them, from numbers computed once. Columns from `firstAmount` on are amounts,
 // aligned right like the main table's.
 
@@ -23,6 +23,7 @@ public:
     void setRows(QStringList headings, std::size_t count, RowTexts rowTexts);
     // Every row, headings first: what is copied and saved.
     std::vector<table::Cells> all() const;
+    table::Cells row(std::size_t row) const { return m_rowTexts(row); }
     const QStringList& headings() const { return m_headings; }
     // Cells (row, column) shown in bold.
     void setMarked(std::set<std::pair<int, int>> cells);

@@ -162,10 +162,11 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
         return view;
     };
     Schedule = tableView(m_schedule, "Schedule");
-    Schedule->installEventFilter(this); // Copy takes its selected rows
     Years = tableView(m_years, "Years");
     m_comparison = new CellsModel(1, this);
     Comparison = tableView(m_comparison, "Comparison");
+    // Copy takes the selected rows of each table.
+    for (QTableView* view : {Schedule, Years, Comparison}) view->installEventFilter(this);
     Chart = new QChartView(this);
     Chart->setRenderHint(QPainter::Antialiasing);
     const QStringList tabNames = strings::fields(strings::kTabs, '\t');
@@ -491,16 +492,13 @@ void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::
 }
 
 bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != Schedule || event->type() != QEvent::KeyPress ||
-        !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+    auto* view = qobject_cast<QTableView*>(watched);
+    if (!view || event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
         return QWidget::eventFilter(watched, event);
-    std::vector<int> selected;
-    for (const QModelIndex& index : Schedule->selectionModel()->selectedIndexes()) selected.push_back(index.row());
-    std::sort(selected.begin(), selected.end());
-    selected.erase(std::unique(selected.begin(), selected.end()), selected.end());
+    std::set<int> selected;
+    for (const QModelIndex& index : view->selectionModel()->selectedIndexes()) selected.insert(index.row());
     std::vector<table::Cells> rows;
-    for (const int row : selected)
-        rows.push_back(table::planRowText(m_payments[static_cast<std::size_t>(row)], m_era, m_payDay, m_columns));
+    for (const int row : selected) rows.push_back(static_cast<CellsModel*>(view->model())->row(row));
     if (!rows.empty()) QGuiApplication::clipboard()->setText(qs(table::toTsv(rows)));
     return true;
 }
@@ -661,9 +659,15 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
     if (const QString terms = Terms->described(); !terms.isEmpty())
         content.terms = text(strings::kTermsTitle) + ": " + terms;
+    if (!Deduction->Note->isHidden()) content.terms += (content.terms.isEmpty() ? "" : "\n") + Deduction->Note->text();
     for (std::size_t i = 0; i < Figures.size(); ++i)
         if (m_figures->isRowVisible(static_cast<int>(i)))
             content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());
+    auto years = std::make_shared<const std::vector<table::Cells>>(m_years->all());
+    content.years.headings = m_years->headings();
+    content.years.rowCount = years->size() - 1;
+    content.years.row = [years](std::size_t row) { return (*years)[row + 1]; };
+    content.years.firstAmount = 2;
     // The chart at the report's size, whatever size the view has (or had, where it was never shown).
     content.chart = QImage(1800, 1000, QImage::Format_RGB32);
     content.chart.fill(Qt::white);

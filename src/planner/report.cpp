@@ -143,6 +143,8 @@ Painted paintReport(QPagedPaintDevice& device, const ReportContent& content,
             painter.drawImage(QRect(0, flow.y(), width, height), content.chart);
             flow.advance(height);
         }
+        flow.advance(line);
+        if (!paintTable(flow, painter, content.years, false)) return false;
         return flow.newPage() && paintTable(flow, painter, content.schedule, true);
     };
     const bool done = paint();

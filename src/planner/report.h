@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The plan as a printed report: its title and loan, its terms, the events, the figures and the chart, then
-// the schedule, laid out page by page as it is painted, the headings of a table at the top of
-// every page it continues on. Nothing holds more than the page being painted, so that a schedule
+// The plan as a printed report: its title and loan, its terms, the events, the figures, the chart
+// and the years, then the schedule, laid out page by page as it is painted, the headings of a
+// table at the top of every page it continues on. Nothing holds more than the page being painted, so that a schedule
 // of 100,000 payments prints in seconds and little memory.
 
 #include "table/rows.h"
@@ -26,10 +26,11 @@ struct ReportTable {
 
 struct ReportContent {
     QString title;
-    QString terms; // the lender terms in words, under the title; empty with none
+    QString terms; // the lender terms in words and the deduction's note, under the title; empty with none
     ReportTable events;
     std::vector<std::pair<QString, QString>> figures; // name and value
     QImage chart;
+    ReportTable years;
     ReportTable schedule;
 };
 

@@ -21,6 +21,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -55,11 +56,11 @@ protected:
         QTest::keyClick(plan->Events, Qt::Key_V, Qt::ControlModifier);
     }
     QString figure(int i) const { return plan->Figures.at(static_cast<std::size_t>(i))->text(); }
-    // A row of the schedule, a blank between its cells.
-    std::string row(int r) const {
+    // A row of a table, a blank between its cells.
+    std::string row(int r, const QTableView* view = nullptr) const {
+        const QAbstractItemModel* model = (view ? view : plan->Schedule)->model();
         QStringList cells;
-        for (int c = 0; c < plan->Schedule->model()->columnCount(); ++c)
-            cells << plan->Schedule->model()->index(r, c).data().toString();
+        for (int c = 0; c < model->columnCount(); ++c) cells << model->index(r, c).data().toString();
         return cells.join(' ').toStdString();
     }
     // What kestrune-schedule prints for the same loan and events, as TSV.
@@ -286,8 +287,17 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     EXPECT_EQ(figure(8), "5,899,594") << "the net saving of the net costs";
     EXPECT_EQ(plan->Years->model()->headerData(8, Qt::Horizontal).toString(), "Deduction");
     EXPECT_EQ(plan->Years->model()->index(0, 8).data().toString(), "206,500") << "2020";
+    // The first year copied from its tab, as the user clicks them.
+    const QTabBar* tabs = plan->findChild<QTabBar*>();
+    QTest::mouseClick(const_cast<QTabBar*>(tabs), Qt::LeftButton, {}, tabs->tabRect(1).center());
+    QTest::mouseClick(plan->Years->viewport(), Qt::LeftButton, {},
+                      plan->Years->visualRect(plan->Years->model()->index(0, 0)).center());
+    QTest::keyClick(plan->Years, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QString::fromStdString(row(0, plan->Years)).replace(' ', '\t') + "\n");
     plan->Events->item(0, 2)->setText("1,000,000");
     EXPECT_EQ(figure(0), "402") << "a cell edited after a paste";
+    plan->Events->setFocus();
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000\nprepay 12 1,000,000\n");
@@ -318,14 +328,15 @@ std::string slurp(const QString& path) {
 }
 
 TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
-    paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nprepay 12 500000 reduce every 12\nfee 13 1,000\n");
+    paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nprepay 12 500000 reduce every 12\nfee 13 1,000\n"
+          "deduction 0.7 13 30000000 from 2020\nprepay 30 25,000,000\n");
     QTemporaryDir dir;
     // Saved and exported through their buttons and the file dialogs.
     answer(dir.filePath("plan.csv"));
     QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
     EXPECT_TRUE(slurp(dir.filePath("plan.csv")) ==
-                tool("--interest monthly --rounding down --bonus 3000000 --review "
-                     "--prepay 12:500000:reduce:every=12 --fee 13:1000 --format csv"));
+                tool("--interest monthly --rounding down --bonus 3000000 --review --prepay 12:500000:reduce:every=12 "
+                     "--fee 13:1000 --prepay 30:25,000,000 --format csv"));
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
     EXPECT_EQ(message(plan), "");
@@ -343,9 +354,12 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     const std::string expected[] = {
         " Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments ",
         " Lender terms: by months, as lenders count it; Round amounts down to the yen; Bonus part: 3,000,000 (6, 12); "
-        "Five-year and 125 % rules ",
-        " Payment Kind Value Mode Every 12 prepay 500000 reduce 12 13 fee 1,000 ",
+        "Five-year and 125 % rules No deduction from 2022: the term is now shorter than ten years ",
+        " Payment Kind Value Mode Every 12 prepay 500000 reduce 12 13 fee 1,000 30 prepay 25,000,000 ",
         " Total interest " + figure(2).toStdString() + " ",
+        " Deduction " + figure(11).toStdString() + " ",
+        " Year Era year Payments Amount Principal Interest Prepaid Fees Deduction Balance " + row(0, plan->Years) +
+            " " + row(1, plan->Years) + " ",
         " Unpaid interest paid " + plan->Figures[10]->text().toStdString() + " ",
         " Break-even payment " + figure(9).toStdString() + " ",
         " No. Repayment Amount Principal Interest Bonus Prepaid Unpaid interest Balance " + row(0) + " ",
