@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleOptionFrame>
 
@@ -118,6 +119,13 @@ int widthForCaptions(QWidget* buttonOrLabel, const QStringList& captions) {
     }
     button ? button->setText(shown) : label->setText(shown);
     return width;
+}
+
+void resizeWithinScreen(QWidget* window, QSize wanted) {
+    const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
+    const int frame = window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, window);
+    const QSize room = window->screen()->availableSize() - QSize(2 * frame, title + 2 * frame);
+    window->resize(wanted.boundedTo(room).expandedTo(window->minimumSize()));
 }
 
 } // namespace controls

@@ -59,4 +59,8 @@ private:
 int widthForText(const QLineEdit* edit, const QString& text);
 int widthForCaptions(QWidget* buttonOrLabel, const QStringList& captions);
 
+// Resizes a top-level window to `wanted`, or to as much of it as its screen has room for beside
+// the frame and title bar a window manager adds; no smaller than its minimum size.
+void resizeWithinScreen(QWidget* window, QSize wanted);
+
 } // namespace controls

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/planwindow.h"
 
+#include "controls/locks.h"
 #include "engine/calculation.h"
 #include "form/amountfields.h"
 #include "planner/cellsmodel.h"
@@ -38,6 +39,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
@@ -87,8 +89,6 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     // Closing hides it: its terms and events belong to its main window's loan and come back when
     // it is opened again. It goes with its main window.
     setObjectName("PlanWindow");
-    // No larger than the screen has room for, at any scale.
-    resize(QSize(920, 760).boundedTo(screen()->availableSize()));
 
     Terms = new TermsBox(this);
     connect(Terms, &TermsBox::changed, this, &PlanWindow::recalculate);
@@ -239,11 +239,26 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     auto* bottom = new QHBoxLayout;
     for (QPushButton* b : {CopyButton, CsvButton, PrintButton, PdfButton}) bottom->addWidget(b);
     bottom->addStretch();
-    auto* layout = new QVBoxLayout(this);
+    // All but the buttons scroll where the screen is smaller than they need, so that the buttons
+    // stay on it.
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
     layout->addLayout(scenarioBar);
     layout->addLayout(top, 2);
     layout->addWidget(tabs, 5);
-    layout->addLayout(bottom);
+    auto* scroll = new QScrollArea;
+    scroll->setWidget(content);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setAccessibleName(strings::withoutMnemonic(strings::kPlanMenu));
+    auto* window = new QVBoxLayout(this);
+    window->setContentsMargins({});
+    window->addWidget(scroll);
+    bottom->setContentsMargins(layout->contentsMargins());
+    window->addLayout(bottom);
+    // As much larger as a field is taller in this font than in the design's, within the screen.
+    const double scale = std::max(1.0, Terms->BonusAmount->sizeHint().height() / 22.0);
+    controls::resizeWithinScreen(this, (QSize(920, 760) * scale).expandedTo(content->minimumSizeHint()));
 
     connect(main, &shell::MainWindow::calculated, this, &PlanWindow::recalculate);
 }

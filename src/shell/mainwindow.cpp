@@ -228,7 +228,8 @@ void MainWindow::fitToFont(controls::LockedLayoutWidget* form) {
 
     const QSize size = form->designSize();
     form->setMinimumSize(size.width(), static_cast<int>(kMinimumSize.height() * verticalScale));
-    resize(size.width(), size.height() + menuBar()->sizeHint().height());
+    // The table gives up what the screen lacks.
+    controls::resizeWithinScreen(this, QSize(size.width(), size.height() + menuBar()->sizeHint().height()));
 }
 
 void MainWindow::nameControls() {

@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include "planner/planwindow.h"
+#include "shell/helpwindow.h"
+
+#include <QComboBox>
+#include <QScreen>
+
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <QTableView>
 
 #include <memory>
 
@@ -38,6 +45,31 @@ void expectWholeCells(const MainWindow* w) {
                       table->visualRect(table->model()->index(row, column)).width() - margin)
                 << "row " << row << " column " << column << " \"" << text.toStdString() << "\"";
         }
+}
+
+// Every label, button and drop-down of a window as wide as its text needs, every column of its
+// tables as wide as its heading and its first and last rows, and the window within the screen.
+void expectWholeTexts(const QWidget* window) {
+    const QSize room = window->screen()->availableSize(), size = window->frameGeometry().size();
+    EXPECT_TRUE(size.width() <= room.width() && size.height() <= room.height())
+        << window->objectName().toStdString() << " " << size.width() << "x" << size.height() << " on the screen";
+    for (const QWidget* c : window->findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(c);
+        if (c->isVisible() && ((label && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(c) ||
+                               qobject_cast<const QComboBox*>(c))) {
+            EXPECT_GE(c->width(), c->sizeHint().width())
+                << c->objectName().toStdString() << " " << c->metaObject()->className();
+        }
+        const auto* view = qobject_cast<const QTableView*>(c);
+        if (!view || !c->isVisible() || view->model()->rowCount() == 0) continue;
+        const QAbstractItemModel* model = view->model();
+        for (int column = 0; column < model->columnCount(); ++column)
+            for (const QString& text :
+                 {model->headerData(column, Qt::Horizontal).toString(), model->index(0, column).data().toString(),
+                  model->index(model->rowCount() - 1, column).data().toString()})
+                EXPECT_LE(view->fontMetrics().horizontalAdvance(text) + 6, view->columnWidth(column))
+                    << view->objectName().toStdString() << " \"" << text.toStdString() << "\"";
+    }
 }
 
 void checkEveryTextShowsWhole(const char* language) {
@@ -99,6 +131,19 @@ void checkEveryTextShowsWhole(const char* language) {
     QTest::keyClick(w->GankinField, Qt::Key_End);
     QTest::keyClick(w->GankinField, Qt::Key_Tab);
     EXPECT_EQ(w->GankinField->cursorPosition(), 0);
+
+    expectWholeTexts(w);
+    w->KindPopup->setListIndex(0);
+    w->Kaisu->setText("420");
+    w->CulcButton->Push();
+    w->showPlan();
+    expectWholeTexts(w->findChild<planner::PlanWindow*>());
+    // The help text whole, where need be by scrolling.
+    w->HelpBtn->click();
+    const QLabel* help = shell::App::instance()->helpWindow()->Label1;
+    QCoreApplication::processEvents();
+    expectWholeTexts(help->window());
+    EXPECT_GE(help->height(), help->heightForWidth(help->width()));
     closeAllWindows();
 }
 

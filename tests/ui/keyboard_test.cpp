@@ -4,14 +4,18 @@
 #include "planner/planwindow.h"
 #include "shell/aboutwindow.h"
 #include "shell/helpwindow.h"
+#include "strings/lookup.h"
 
 #include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QTableWidget>
 
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace {
@@ -83,25 +87,25 @@ TEST_F(WindowTest, TheTableIsOneTabStopAndTabNeverChangesTheSelection) {
     EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{4}) << "arrows move the selection";
 }
 
-TEST_F(WindowTest, NewAndQuitWorkFromTheHelpAndAboutWindows) {
-    const auto windows = [] { return shell::App::instance()->mainWindows().size(); };
+// Ctrl+N answers in every window, as in the main one, and hides the About window; Ctrl+Q too.
+TEST_F(WindowTest, NewAndQuitWorkFromEveryWindow) {
     w->HelpBtn->click();
-    shell::HelpWindow* help = shell::App::instance()->helpWindow();
-    showActive(help);
-    QTest::keyClick(help, Qt::Key_N, Qt::ControlModifier);
-    EXPECT_EQ(windows(), 2) << "Ctrl+N in the help window";
-
-    w->_AppleAbout_Action();
-    shell::AboutWindow* about = shell::App::instance()->aboutWindow();
-    showActive(about);
-    QTest::keyClick(about, Qt::Key_N, Qt::ControlModifier);
-    EXPECT_EQ(windows(), 3) << "Ctrl+N in the About window";
-    EXPECT_FALSE(about->isVisible());
-
+    w->showPlan();
+    auto* plan = w->findChild<planner::PlanWindow*>();
+    for (QWidget* window :
+         std::initializer_list<QWidget*>{shell::App::instance()->helpWindow(), plan->Events, nullptr}) {
+        if (!window) w->_AppleAbout_Action(); // modal: opened last
+        window = window ? window : shell::App::instance()->aboutWindow();
+        showActive(window->window());
+        const auto opened = shell::App::instance()->mainWindows().size();
+        QTest::keyClick(window, Qt::Key_N, Qt::ControlModifier);
+        EXPECT_EQ(shell::App::instance()->mainWindows().size(), opened + 1) << window->objectName().toStdString();
+    }
+    EXPECT_FALSE(shell::App::instance()->aboutWindow()->isVisible());
     QSignalSpy quit(shell::App::instance()->fileQuitAction(), &QAction::triggered);
-    showActive(help);
-    QTest::keyClick(help, Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_EQ(quit.count(), 1) << "Ctrl+Q in the help window";
+    showActive(plan);
+    QTest::keyClick(plan->Events, Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quit.count(), 1);
 }
 
 // Every control the keyboard reaches, and every figure, has a name of its own for a screen
@@ -157,6 +161,15 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         if (!japanese) {
             EXPECT_EQ(names.join('|'), "Principal|Rate|Times|First|Interest|Selection|Pay off");
         }
+        // Every button of the Plan window has a key of its own, and the file dialogs' titles show none.
+        std::map<QKeySequence, QString> taken;
+        for (const QPushButton* button : w->findChild<planner::PlanWindow*>()->findChildren<QPushButton*>()) {
+            const QKeySequence key = QKeySequence::mnemonic(button->text());
+            EXPECT_TRUE(!key.isEmpty() && taken.emplace(key, button->text()).second)
+                << button->text().toStdString() << " and " << taken[key].toStdString();
+        }
+        EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv),
+                  japanese ? "返済表を CSV で保存..." : "Save Schedule as CSV...");
         closeAllWindows();
     }
 }

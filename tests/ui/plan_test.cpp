@@ -100,14 +100,6 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
     setForm(form);
     EXPECT_EQ(plan->windowTitle(), "Plan: Flat payment, 30,000,000 at 1.5 %, 360 payments");
     EXPECT_EQ(figure(0), "360");
-    // New and Quit from the Plan window, as from every window.
-    QSignalSpy quit(shell::App::instance()->fileQuitAction(), &QAction::triggered);
-    showActive(plan);
-    QTest::keyClick(plan->Events, Qt::Key_N, Qt::ControlModifier);
-    EXPECT_EQ(shell::App::instance()->mainWindows().size(), 2) << "Ctrl+N";
-    showActive(plan);
-    QTest::keyClick(plan->Events, Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_EQ(quit.count(), 1) << "Ctrl+Q";
     QPointer<planner::PlanWindow> open = plan;
     w->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -133,63 +125,6 @@ TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
     EXPECT_TRUE(plan->isVisible());
     QTest::keyClick(plan->Events, Qt::Key_Escape);
     EXPECT_FALSE(plan->isVisible());
-}
-
-// The controls of a new Plan window where the layout puts them, each a name (or a button's text)
-// and its left, top, width and height, as the default font of the offscreen platform lays them
-// out.
-TEST_F(PlanTest, EveryControlStandsWhereTheLayoutPutsIt) {
-    if (plan->fontMetrics().horizontalAdvance("999,999,999,999") != 103)
-        GTEST_SKIP() << "another default font than the one these places were read with";
-    std::string all;
-    for (const QWidget* c : plan->findChildren<QWidget*>()) {
-        // A control by its text, else its name, else its kind; Qt's inner widgets left out.
-        QString name = c->objectName();
-        if (const auto* label = qobject_cast<const QLabel*>(c)) name = label->text();
-        if (const auto* button = qobject_cast<const QAbstractButton*>(c)) name = button->text();
-        if (name.isEmpty() && (qobject_cast<const QLineEdit*>(c) || qobject_cast<const QAbstractSpinBox*>(c) ||
-                               qobject_cast<const QComboBox*>(c)))
-            name = c->metaObject()->className();
-        if (!c->isVisible() || name.isEmpty() || name.startsWith("qt_") || name.startsWith("Scroll")) continue;
-        const QRect r(c->mapTo(plan, QPoint()), c->size());
-        all += name.toStdString() + " " + std::to_string(r.x()) + " " + std::to_string(r.y()) + " " +
-               std::to_string(r.width()) + " " + std::to_string(r.height()) + "; ";
-    }
-    EXPECT_EQ(all,
-              "Terms 11 39 650 92; QComboBox 80 68 342 22; &Interest: 23 68 51 22; "
-              "Round amounts &down to the yen 428 69 221 20; &Bonus part: 23 97 95 20; QLineEdit 124 96 104 22; "
-              "QSpinBox 330 96 43 23; QSpinBox 379 96 43 23; &Five-year and 125 % rules 428 97 221 20; "
-              "Bonus months: 234 96 90 23; Deduction 667 39 453 121; QLineEdit 806 68 58 22; "
-              "QSpinBox 1033 68 75 23; QLineEdit 806 97 92 22; QSpinBox 970 97 138 23; QLineEdit 806 126 302 22; "
-              "% 870 68 75 23; Years: 951 68 76 23; First year: 904 97 60 23; Rate: 679 68 32 23; "
-              "Cap on the balance: 679 97 121 23; Limit: 679 126 34 22; Events 11 137 564 223; &Add 581 137 80 22; "
-              "&Remove 581 165 80 22; &Copy Schedule 11 727 98 22; &Save Schedule as CSV... 115 727 152 22; "
-              "&Print... 273 727 80 22; &Export as PDF... 359 727 102 22; 420 803 166 317 14; "
-              "38,566,138 803 186 317 14; 8,566,138 803 206 317 14; 0 803 226 317 14; 0 803 246 317 14; "
-              "2055 / 3 / 8  803 266 317 14; 0 803 286 317 14; 0 (0 years 0 months) 803 306 317 14; "
-              "0 803 326 317 14; no fees 803 346 317 14; Schedule 13 392 1105 327; Scenarios 74 11 54 22; "
-              "&New Scenario 134 11 91 22; D&uplicate 231 11 80 22; Rena&me... 317 11 80 22; "
-              "De&lete Scenario 403 11 104 22; Scenari&o: 11 11 57 22; Payments: 667 166 63 14; "
-              "Total paid: 667 186 62 14; Total interest: 667 206 82 14; Total prepaid: 667 226 82 14; "
-              "Fees: 667 246 32 14; Pay off: 667 266 45 14; Interest saved: 667 286 90 14; "
-              "Payments saved: 667 306 103 14; Net saving: 667 326 69 14; Break-even payment: 667 346 130 14; ");
-}
-
-TEST(PlanWindow, EveryMnemonicIsUniqueAndDialogsShowNoneInEachLanguage) {
-    for (const bool japanese : {false, true}) {
-        const std::unique_ptr<Japanese> translation(japanese ? new Japanese : nullptr);
-        auto window = std::make_unique<MainWindow>();
-        window->showPlan();
-        std::map<QKeySequence, QString> taken;
-        for (const QPushButton* button : window->findChild<planner::PlanWindow*>()->findChildren<QPushButton*>()) {
-            const QKeySequence key = QKeySequence::mnemonic(button->text());
-            EXPECT_FALSE(key.isEmpty()) << button->text().toStdString();
-            EXPECT_TRUE(taken.emplace(key, button->text()).second)
-                << button->text().toStdString() << " and " << taken[key].toStdString();
-        }
-        EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv),
-                  japanese ? "返済表を CSV で保存..." : "Save Schedule as CSV...");
-    }
 }
 
 TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {

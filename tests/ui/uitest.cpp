@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include "shell/helpwindow.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -22,6 +24,7 @@ void closeAllWindows() {
     // nothing here.
     for (MainWindow* window : shell::App::instance()->mainWindows()) window->setWindowModified(false);
     QApplication::closeAllWindows();
+    if (shell::App::instance()->hasHelpWindow()) delete shell::App::instance()->helpWindow(); // hidden, not closed
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
