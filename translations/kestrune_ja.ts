@@ -430,8 +430,8 @@ Press this to select all rows. Originally, the total interest of the selected ro
     </message>
     <message>
         <source>kExportPdf</source>
-        <comment>&amp;Export as PDF...</comment>
-        <translation>PDF に書き出し(&amp;E)...</translation>
+        <comment>E&amp;xport as PDF...</comment>
+        <translation>PDF に書き出し(&amp;X)...</translation>
     </message>
     <message>
         <source>kYearsMonths</source>

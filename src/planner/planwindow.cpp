@@ -32,6 +32,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineSeries>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -46,6 +47,7 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QToolTip>
+#include <QUndoStack>
 #include <QValueAxis>
 
 #include <set>
@@ -83,9 +85,29 @@ QDateTime dateTime(const calendar::Date& date) {
 
 } // namespace
 
+// A change of the user's to the terms, deduction or events: the scenario before and after it.
+class ScenarioChange : public QUndoCommand {
+public:
+    ScenarioChange(std::function<void(const engine::Scenario&)> show, engine::Scenario before, engine::Scenario after)
+        : m_show(std::move(show)), m_before(std::move(before)), m_after(std::move(after)) {}
+    void undo() override { m_show(m_before); }
+    // Pushed once it is done: the first redo has nothing to do.
+    void redo() override {
+        if (!m_done)
+            m_done = true;
+        else
+            m_show(m_after);
+    }
+
+private:
+    std::function<void(const engine::Scenario&)> m_show;
+    engine::Scenario m_before, m_after;
+    bool m_done = false;
+};
+
 PlanWindow::PlanWindow(shell::MainWindow* main)
-    : QWidget(main, Qt::Window), m_main(main), m_schedule(new CellsModel(table::kAmount, this)),
-      m_years(new CellsModel(3, this)) {
+    : QWidget(main, Qt::Window), m_main(main), m_undo(new QUndoStack(this)),
+      m_schedule(new CellsModel(table::kAmount, this)), m_years(new CellsModel(3, this)) {
     // Closing hides it: its terms and events belong to its main window's loan and come back when
     // it is opened again. It goes with its main window.
     setObjectName("PlanWindow");
@@ -253,6 +275,14 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     scroll->setAccessibleName(strings::withoutMnemonic(strings::kPlanMenu));
     auto* window = new QVBoxLayout(this);
     window->setContentsMargins({});
+    auto* menus = new QMenuBar;
+    QMenu* edit = menus->addMenu(text(strings::kEditMenu));
+    QAction* undo = m_undo->createUndoAction(this, text(strings::kEditUndo));
+    QAction* redo = m_undo->createRedoAction(this, text(strings::kEditRedo));
+    undo->setShortcuts(QKeySequence::Undo);
+    redo->setShortcuts(QKeySequence::Redo);
+    edit->addActions({undo, redo});
+    window->setMenuBar(menus);
     window->addWidget(scroll);
     bottom->setContentsMargins(layout->contentsMargins());
     window->addLayout(bottom);
@@ -378,6 +408,7 @@ void PlanWindow::recalculate() {
     drawChart(m_payments,
               outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
     if (m_tabs->currentWidget() == Comparison) showComparison();
+    if (!m_showing) keepChange();
     emit changed();
 }
 
@@ -582,11 +613,24 @@ engine::Scenario PlanWindow::scenario() const {
     return scenario;
 }
 
+void PlanWindow::keepChange() {
+    if (const engine::Scenario now = scenario(); now != m_last) {
+        m_undo->push(new ScenarioChange([this](const engine::Scenario& s) { showScenario(s); }, m_last, now));
+        m_last = now;
+    }
+}
+
 void PlanWindow::setScenario(const engine::Scenario& scenario) {
+    showScenario(scenario);
+    m_undo->clear();
+}
+
+void PlanWindow::showScenario(const engine::Scenario& scenario) {
     engine::LenderTerms terms;
     for (const std::string& line : scenario.terms) engine::readTerm(line, terms);
     std::optional<engine::TaxDeduction> deduction;
     if (scenario.deduction) engine::readDeduction(*scenario.deduction, deduction);
+    m_showing = true;
     Terms->setTerms(terms);
     Deduction->setDeduction(deduction);
     m_reading = true;
@@ -594,6 +638,8 @@ void PlanWindow::setScenario(const engine::Scenario& scenario) {
     for (const std::string& line : scenario.events) appendRow(line);
     m_reading = false;
     recalculate();
+    m_last = this->scenario(); // also while hidden, when nothing was calculated
+    m_showing = false;
 }
 
 void PlanWindow::copyEvents() const {
@@ -634,12 +680,16 @@ void PlanWindow::pasteEvents() {
         }
         if (!term.isTerm) eventLines.push_back(read.lines[i]);
     }
+    // One change to undo, though the terms, the deduction and the list each recalculate.
+    m_showing = true;
     Terms->setTerms(terms);
     Deduction->setDeduction(deduction);
     m_reading = true;
     for (const std::string& line : eventLines) appendRow(line);
     m_reading = false;
     recalculate();
+    m_showing = false;
+    keepChange();
 }
 
 void PlanWindow::copySchedule() const {

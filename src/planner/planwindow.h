@@ -20,6 +20,7 @@ class QTableView;
 class QPagedPaintDevice;
 class QTableWidget;
 class QTabWidget;
+class QUndoStack;
 
 namespace shell {
 class MainWindow;
@@ -44,9 +45,12 @@ public:
     // and terms pasted from lines.
     void copyEvents() const;
     void pasteEvents();
-    // The terms, deduction and events the window holds, each event as its row reads; and set anew.
+    // The terms, deduction and events the window holds, each event as its row reads; and set anew,
+    // which starts their undo history afresh.
     engine::Scenario scenario() const;
     void setScenario(const engine::Scenario& scenario);
+    // Every change to the terms, deduction and events, to undo and redo (Ctrl+Z, Ctrl+Shift+Z).
+    QUndoStack* undoStack() const { return m_undo; }
     // The whole schedule, headings and every row, for a spreadsheet.
     void copySchedule() const;
     // Saved whole or not at all; a failure is told in a message that names the file.
@@ -86,6 +90,10 @@ private:
     QString rowLine(int row) const;
     void showScenarioNames();
     void appendRow(const std::string& line);
+    // Sets the terms, deduction and events without taking it for a change of the user's.
+    void showScenario(const engine::Scenario& scenario);
+    // What changed since the last change kept, as one step to undo.
+    void keepChange();
     void showFigures(const engine::PlanOutcome& outcome, int era);
     // The figures of a plan as the window shows them, in the order of Figures.
     QStringList figureTexts(const engine::PlanOutcome& outcome, int era) const;
@@ -96,6 +104,9 @@ private:
     Painted paintReport(QPagedPaintDevice& device);
 
     QPointer<shell::MainWindow> m_main;
+    QUndoStack* m_undo;
+    engine::Scenario m_last; // as the last calculation read it: where the next change undoes to
+    bool m_showing = false;  // changes kept as one step, or none
     CellsModel* m_schedule;
     CellsModel* m_years;
     CellsModel* m_comparison;

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QMenu>
+#include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>
@@ -161,13 +162,21 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         if (!japanese) {
             EXPECT_EQ(names.join('|'), "Principal|Rate|Times|First|Interest|Selection|Pay off");
         }
-        // Every button of the Plan window has a key of its own, and the file dialogs' titles show none.
+        // Every button, label, group and menu of the Plan window has a key of its own, and the file
+        // dialogs' titles show none.
+        auto* plan = w->findChild<planner::PlanWindow*>();
+        QStringList texts;
+        for (const QAbstractButton* button : plan->findChildren<QAbstractButton*>()) texts << button->text();
+        for (const QLabel* label : plan->findChildren<QLabel*>()) texts << label->text();
+        for (const QGroupBox* group : plan->findChildren<QGroupBox*>()) texts << group->title();
+        for (const QAction* menu : plan->findChild<QMenuBar*>()->actions()) texts << menu->text();
         std::map<QKeySequence, QString> taken;
-        for (const QPushButton* button : w->findChild<planner::PlanWindow*>()->findChildren<QPushButton*>()) {
-            const QKeySequence key = QKeySequence::mnemonic(button->text());
-            EXPECT_TRUE(!key.isEmpty() && taken.emplace(key, button->text()).second)
-                << button->text().toStdString() << " and " << taken[key].toStdString();
+        for (const QString& text : texts) {
+            const QKeySequence key = QKeySequence::mnemonic(text);
+            EXPECT_TRUE(key.isEmpty() || taken.emplace(key, text).second)
+                << text.toStdString() << " and " << taken[key].toStdString();
         }
+        EXPECT_EQ(taken.size(), 17u);
         EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv),
                   japanese ? "返済表を CSV で保存..." : "Save Schedule as CSV...");
         closeAllWindows();

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLineSeries>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
@@ -85,6 +86,12 @@ protected:
              QString::fromStdString(output("pdftotext -layout " + path.toStdString() + " -")).split('\n'))
             text += line.simplified().toStdString() + "\n";
         return text;
+    }
+    static std::string scenarioLines(const engine::Scenario& s) {
+        std::string all;
+        for (const auto& line : s.terms) all += line + "|";
+        for (const auto& line : s.events) all += line + "|";
+        return all.substr(0, all.empty() ? 0 : all.size() - 1);
     }
     planner::PlanWindow* plan = nullptr;
 };
@@ -186,6 +193,30 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
         << "the balance after the first payment";
     EXPECT_GT(static_cast<QLineSeries*>(plan->Chart->chart()->series().at(1))->count(), 0) << "without events";
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
+}
+
+// Each change undone and redone in turn, by its keys and from the Edit menu: a paste of terms and
+// events is one change, and so are a row added, a cell edited and a row removed.
+TEST_F(PlanTest, ChangesAreUndoneAndRedone) {
+    paste("rounding down\nfee 1 10\n");
+    QTest::keyClick(plan->Events, Qt::Key_Insert);
+    plan->Events->item(1, 2)->setText("5");
+    plan->Events->setCurrentCell(0, 0);
+    QTest::keyClick(plan->Events, Qt::Key_Delete);
+    const auto lines = [this] { return scenarioLines(plan->scenario()); };
+    const std::string steps[] = {"rounding down|prepay 1 5 shorten", "rounding down|fee 1 10|prepay 1 5 shorten",
+                                 "rounding down|fee 1 10|prepay 1 0 shorten", "rounding down|fee 1 10", ""};
+    for (const std::string& step : steps) {
+        EXPECT_EQ(lines(), step);
+        QTest::keyClick(plan->Events, Qt::Key_Z, Qt::ControlModifier);
+    }
+    QMenu* edit = plan->findChild<QMenuBar*>()->actions().at(0)->menu();
+    EXPECT_EQ(edit->actions().at(0)->isEnabled(), false) << "nothing left to undo";
+    for (int redo = 0; redo < 3; ++redo)
+        QTest::keyClick(plan->Events, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    edit->actions().at(1)->trigger();
+    EXPECT_EQ(lines(), steps[0]);
+    EXPECT_EQ(figure(4), "0") << "the plan of the events redone";
 }
 
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
