@@ -404,6 +404,16 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>プラン: %1、%2、年利 %3 %、%4 回</translation>
     </message>
     <message>
+        <source>kEventKinds</source>
+        <comment>prepay	rate	fee</comment>
+        <translation>繰上返済	金利変更	手数料</translation>
+    </message>
+    <message>
+        <source>kPrepayModes</source>
+        <comment>shorten	reduce</comment>
+        <translation>期間短縮	返済額軽減</translation>
+    </message>
+    <message>
         <source>kEventHeader</source>
         <comment>Payment	Kind	Value	Mode	Every</comment>
         <translation>回	種類	値	方式	間隔</translation>

@@ -62,6 +62,21 @@ enum EventColumn { kPayment, kKind, kValue, kMode, kEvery };
 const QStringList kKinds{"prepay", "rate", "fee"};
 const QStringList kModes{"shorten", "reduce"};
 
+// A kind or mode as the tool writes it, from the words of either language; any other word as it is.
+QString toolWord(const QString& word) {
+    for (const auto& [tool, shown] : {std::pair{kKinds, strings::fields(strings::kEventKinds, '\t')},
+                                      std::pair{kModes, strings::fields(strings::kPrepayModes, '\t')}})
+        if (const auto i = shown.indexOf(word); i >= 0) return tool.at(i);
+    return word;
+}
+
+// A kind or mode of the tool's in the user's language; any other word as it is.
+QString shownWord(const QString& word) {
+    if (const auto i = kKinds.indexOf(word); i >= 0) return strings::fields(strings::kEventKinds, '\t').value(i);
+    if (const auto i = kModes.indexOf(word); i >= 0) return strings::fields(strings::kPrepayModes, '\t').value(i);
+    return word;
+}
+
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
 // Kind and mode are chosen from lists.
@@ -73,7 +88,8 @@ public:
         if (index.column() != kKind && index.column() != kMode)
             return QStyledItemDelegate::createEditor(parent, option, index);
         auto* choices = new QComboBox(parent);
-        choices->addItems(index.column() == kKind ? kKinds : kModes);
+        choices->addItems(
+            strings::fields(index.column() == kKind ? strings::kEventKinds : strings::kPrepayModes, '\t'));
         return choices;
     }
 };
@@ -299,13 +315,7 @@ std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount,
     std::vector<engine::PlanEvent> events;
     m_eventRows.clear();
     for (int row = 0; row < Events->rowCount(); ++row) {
-        const auto cell = [this, row](int column) {
-            const QTableWidgetItem* item = Events->item(row, column);
-            return item ? item->text().trimmed() : QString();
-        };
-        QString line = cell(kKind) + " " + cell(kPayment) + " " + cell(kValue);
-        if (cell(kKind) == "prepay") line += " " + (cell(kMode).isEmpty() ? kModes[0] : cell(kMode));
-        if (cell(kKind) == "prepay" && !cell(kEvery).isEmpty()) line += " every " + cell(kEvery);
+        const QString line = rowLine(row);
         const engine::EventReading reading = engine::readEvent(line.toStdString(), paymentCount);
         if (reading.event) {
             events.push_back(*reading.event);
@@ -553,7 +563,7 @@ void PlanWindow::addEvent() {
     const int row = Events->rowCount();
     m_reading = true;
     Events->insertRow(row);
-    const QString cells[] = {"1", kKinds[0], "0", kModes[0], ""};
+    const QString cells[] = {"1", shownWord(kKinds[0]), "0", shownWord(kModes[0]), ""};
     for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
     m_reading = false;
     Events->setCurrentCell(row, kPayment);
@@ -582,10 +592,12 @@ void PlanWindow::showScenarioNames() {
 // The line of a row of the list, as its cells hold it.
 QString PlanWindow::rowLine(int row) const {
     QStringList words;
+    const auto cell = [this, row](int column) {
+        return Events->item(row, column) ? toolWord(Events->item(row, column)->text().trimmed()) : QString();
+    };
     for (const int column : {kKind, kPayment, kValue, kMode, kEvery}) {
-        const QString cell = Events->item(row, column) ? Events->item(row, column)->text().trimmed() : QString();
-        if (column >= kMode && (Events->item(row, kKind)->text() != "prepay" || cell.isEmpty())) continue;
-        words << (column == kEvery ? "every " + cell : cell);
+        if (column >= kMode && (cell(kKind) != kKinds[0] || cell(column).isEmpty())) continue;
+        words << (column == kEvery ? "every " + cell(column) : cell(column));
     }
     return words.join(' ');
 }
@@ -593,12 +605,12 @@ QString PlanWindow::rowLine(int row) const {
 // A row of the list from an event's line, its words in their cells.
 void PlanWindow::appendRow(const std::string& line) {
     QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
-    QString cells[5] = {words.value(1), words.value(0), words.value(2), "", ""};
+    QString cells[5] = {words.value(1), shownWord(words.value(0)), words.value(2), "", ""};
     for (int i = 3; i < words.size(); ++i) {
         if (words[i] == "every")
             cells[kEvery] = words.value(++i);
         else
-            cells[kMode] = words[i];
+            cells[kMode] = shownWord(words[i]);
     }
     const int row = Events->rowCount();
     Events->insertRow(row);

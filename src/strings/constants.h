@@ -131,6 +131,10 @@ inline constexpr Constant kHelpText =
 inline constexpr Constant kPlanMenu = KESTRUNE_TEXT("App", "kPlanMenu", "&Plan");
 inline constexpr Constant kPlanItem = KESTRUNE_TEXT("App", "kPlanItem", "Prepayments and Rate Changes...");
 inline constexpr Constant kPlanTitle = KESTRUNE_TEXT("PlanWindow", "kPlanTitle", "Plan: %1, %2 at %3 %, %4 payments");
+// The kinds of event and the modes of a prepayment as the event list shows them, in the order of
+// the tool's words "prepay", "rate", "fee" and "shorten", "reduce".
+inline constexpr Constant kEventKinds = KESTRUNE_TEXT("PlanWindow", "kEventKinds", "prepay\trate\tfee");
+inline constexpr Constant kPrepayModes = KESTRUNE_TEXT("PlanWindow", "kPrepayModes", "shorten\treduce");
 inline constexpr Constant kEventHeader =
     KESTRUNE_TEXT("PlanWindow", "kEventHeader", "Payment\tKind\tValue\tMode\tEvery");
 inline constexpr Constant kEventErrors = KESTRUNE_TEXT(
@@ -255,6 +259,7 @@ inline constexpr std::array kAllConstants{kAppName,        kAppName2,
                                           kCloseBtn,       kPlanMenu,
                                           kPlanItem,       kPlanTitle,
                                           kEventHeader,    kEventErrors,
+                                          kEventKinds,     kPrepayModes,
                                           kAddEvent,       kRemoveEvent,
                                           kCopySchedule,   kSaveCsv,
                                           kPrint,          kExportPdf,

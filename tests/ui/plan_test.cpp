@@ -219,6 +219,22 @@ TEST_F(PlanTest, ChangesAreUndoneAndRedone) {
     EXPECT_EQ(figure(4), "0") << "the plan of the events redone";
 }
 
+// In Japanese the list shows kinds and modes in Japanese, reads pasted lines in either language
+// and copies the tool's words, so that they paste into an events file.
+TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
+    Japanese japanese;
+    paste("繰上返済 12 1,000,000 返済額軽減\nfee 1 10\n");
+    QTest::keyClick(plan->Events, Qt::Key_Insert);
+    QStringList shown;
+    for (int row = 0; row < 3; ++row)
+        shown << plan->Events->item(row, 1)->text() + " " + plan->Events->item(row, 3)->text();
+    EXPECT_EQ(shown.join('|'), "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
+    plan->Events->selectAll();
+    QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "prepay 12 1,000,000 reduce\nfee 1 10\nprepay 1 0 shorten\n");
+    EXPECT_EQ(figure(4), "10");
+}
+
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     paste("fee 1 10\nprepay 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
