@@ -460,8 +460,8 @@ Press this to select all rows. Originally, the total interest of the selected ro
     </message>
     <message>
         <source>kPointer</source>
-        <comment>Payment %1, %2: %3</comment>
-        <translation>%1 回目 %2: %3</translation>
+        <comment>%4 — payment %1, %2: %3</comment>
+        <translation>%4 — %1 回目 %2: %3</translation>
     </message>
     <message>
         <source>kEventsTitle</source>

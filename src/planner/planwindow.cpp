@@ -415,8 +415,7 @@ void PlanWindow::recalculate() {
     if (m_deduction) yearHeadings.insert(yearHeadings.size() - 1, text(strings::kDeductionHeading));
     m_years->setRows(yearHeadings, years->size(), [years](std::size_t row) { return (*years)[row]; });
     showFigures(outcome, form.era);
-    drawChart(m_payments,
-              outcome.refusal == engine::Refusal::None ? outcome.base.payments : std::vector<engine::Payment>{});
+    drawChart(chartLines(outcome));
     if (m_tabs->currentWidget() == Comparison) showComparison();
     if (!m_showing) keepChange();
     emit changed();
@@ -479,9 +478,36 @@ QStringList PlanWindow::figureTexts(const engine::PlanOutcome& outcome, int era)
     return QStringList(std::begin(values), std::end(values));
 }
 
-void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base) {
+std::vector<PlanWindow::ChartLine> PlanWindow::chartLines(const engine::PlanOutcome& outcome) const {
+    if (outcome.refusal != engine::Refusal::None) return {};
+    const QStringList names = strings::fields(strings::kChartNames, '\t');
+    static const QColor kColours[] = {"#1f5fbf", "#d9480f", "#2b8a3e", "#7048e8", "#c2255c", "#0b7285"};
+    // Each scenario's payments and its name; the one shown alone needs no name.
+    std::vector<std::pair<QString, std::vector<engine::Payment>>> plans{{QString(), outcome.plan.payments}};
+    const engine::PlanDocument document = m_main->document()->current();
+    if (document.scenarios.size() > 1) {
+        plans.clear();
+        for (const engine::ComparedPlan& plan : engine::comparePlans(document))
+            if (plan.outcome && !plan.name.empty())
+                plans.emplace_back(qs(plan.name) + ": ", plan.outcome->plan.payments);
+    }
+    std::vector<ChartLine> lines;
+    for (const bool interest : {false, true}) {
+        for (std::size_t i = 0; i < plans.size(); ++i) {
+            const QColor colour = kColours[i % std::size(kColours)].darker(interest ? 130 : 100);
+            lines.push_back({plans[i].first + names.value(interest ? 2 : 0), plans[i].second, interest, colour,
+                             interest ? Qt::DotLine : Qt::SolidLine});
+        }
+        lines.push_back({names.value(interest ? 3 : 1), outcome.base.payments, interest,
+                         QColor("#888888").darker(interest ? 130 : 100), interest ? Qt::DashDotLine : Qt::DashLine});
+    }
+    return lines;
+}
+
+void PlanWindow::drawChart(const std::vector<ChartLine>& lines) {
     const QStringList names = strings::fields(strings::kChartNames, '\t');
     auto* chart = new QChart;
+    chart->setLocalizeNumbers(true); // amounts with the locale's separators
     auto* dates = new QDateTimeAxis;
     dates->setFormat("yyyy");
     dates->setTitleText(names.value(4));
@@ -491,54 +517,48 @@ void PlanWindow::drawChart(const std::vector<engine::Payment>& plan, const std::
     chart->addAxis(dates, Qt::AlignBottom);
     chart->addAxis(amounts, Qt::AlignLeft);
     // No more points than the chart has pixels across; the last payment always.
-    const int width = std::max(100, Chart->width());
-    const auto add = [&](const std::vector<engine::Payment>& payments, bool interest, int name, Qt::PenStyle style) {
+    const auto pixels = static_cast<std::size_t>(std::max(100, Chart->width()));
+    double highest = 0;
+    qint64 first = std::numeric_limits<qint64>::max(), last = std::numeric_limits<qint64>::min();
+    for (const ChartLine& line : lines) {
         auto* series = new QLineSeries;
-        series->setName(names.value(name));
-        series->setPen(QPen(QColor(name % 2 ? "#888888" : "#1f5fbf").darker(interest ? 130 : 100), 2, style));
-        const auto pixels = static_cast<std::size_t>(width);
+        series->setName(line.name);
+        series->setPen(QPen(line.colour, 2, line.style));
+        const std::vector<engine::Payment>& payments = line.payments;
         const std::size_t step = std::max<std::size_t>(1, (payments.size() + pixels - 1) / pixels);
+        std::vector<std::int64_t> numbers; // the payment of each point
         double total = 0;
         for (std::size_t i = 0; i < payments.size(); ++i) {
             total += payments[i].interest;
-            if (i % step == 0 || i + 1 == payments.size())
-                series->append(static_cast<double>(dateTime(payments[i].date).toMSecsSinceEpoch()),
-                               interest ? total : payments[i].balance);
+            highest = std::max({highest, payments[i].balance + payments[i].principal + payments[i].prepaid, total});
+            if (i % step != 0 && i + 1 != payments.size()) continue;
+            const qint64 at = dateTime(payments[i].date).toMSecsSinceEpoch();
+            first = std::min(first, at);
+            last = std::max(last, at);
+            series->append(static_cast<double>(at), line.interest ? total : payments[i].balance);
+            numbers.push_back(payments[i].number);
         }
         chart->addSeries(series);
         series->attachAxis(dates);
         series->attachAxis(amounts);
-        connect(series, &QLineSeries::hovered, this, [this, payments, names](QPointF point, bool inside) {
-            if (!inside || payments.empty()) return;
-            const QDate at = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(point.x())).date();
-            const auto nearest =
-                std::min_element(payments.begin(), payments.end(), [&at](const auto& a, const auto& b) {
-                    return std::abs(dateTime(a.date).date().daysTo(at)) < std::abs(dateTime(b.date).date().daysTo(at));
-                });
-            QToolTip::showText(QCursor::pos(),
-                               text(strings::kPointer)
-                                   .arg(nearest->number)
-                                   .arg(QLocale().toString(dateTime(nearest->date).date(), QLocale::ShortFormat))
-                                   .arg(qs(runtime::Format(nearest->balance, table::kAmountMask))));
+        // The series' own figure at the point nearest the pointer, with its payment and date.
+        connect(series, &QLineSeries::hovered, this, [this, series, numbers](QPointF point, bool inside) {
+            const QList<QPointF> points = series->points();
+            if (!inside || points.isEmpty()) return;
+            const auto nearest = std::min_element(points.begin(), points.end(), [&point](QPointF a, QPointF b) {
+                return std::abs(a.x() - point.x()) < std::abs(b.x() - point.x());
+            });
+            const QDate date = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(nearest->x())).date();
+            QToolTip::showText(QCursor::pos(), text(strings::kPointer)
+                                                   .arg(numbers.at(static_cast<std::size_t>(nearest - points.begin())))
+                                                   .arg(QLocale().toString(date, QLocale::ShortFormat))
+                                                   .arg(qs(runtime::Format(nearest->y(), table::kAmountMask)))
+                                                   .arg(series->name()));
         });
-    };
-    add(plan, false, 0, Qt::SolidLine);
-    add(base, false, 1, Qt::DashLine);
-    add(plan, true, 2, Qt::DotLine);
-    add(base, true, 3, Qt::DashDotLine);
-    // Both loans whole: from the first payment to the later end, from 0 to the highest figure.
-    if (!plan.empty() && !base.empty()) {
-        const calendar::Date& last =
-            plan.back().date.days() < base.back().date.days() ? base.back().date : plan.back().date;
-        dates->setRange(dateTime(base.front().date), dateTime(last));
-        double highest = 0;
-        for (const auto* payments : {&plan, &base}) {
-            double interest = 0;
-            for (const engine::Payment& p : *payments) {
-                interest += p.interest;
-                highest = std::max({highest, p.balance + p.principal + p.prepaid, interest});
-            }
-        }
+    }
+    // Every loan whole: from the first payment to the last end, from 0 to the highest figure.
+    if (first <= last) {
+        dates->setRange(QDateTime::fromMSecsSinceEpoch(first), QDateTime::fromMSecsSinceEpoch(last));
         amounts->setRange(0, highest);
         amounts->applyNiceNumbers();
     }

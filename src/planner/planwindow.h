@@ -8,6 +8,7 @@
 #include "engine/plan.h"
 #include "planner/report.h"
 
+#include <QColor>
 #include <QPointer>
 #include <QWidget>
 
@@ -98,7 +99,17 @@ private:
     // The figures of a plan as the window shows them, in the order of Figures.
     QStringList figureTexts(const engine::PlanOutcome& outcome, int era) const;
     void showComparison();
-    void drawChart(const std::vector<engine::Payment>& plan, const std::vector<engine::Payment>& base);
+    // A line of the chart: a plan's balance, or the interest it paid so far.
+    struct ChartLine {
+        QString name;
+        std::vector<engine::Payment> payments;
+        bool interest;
+        QColor colour;
+        Qt::PenStyle style;
+    };
+    // The plan beside the loan without events; with several scenarios, each in a colour of its own.
+    std::vector<ChartLine> chartLines(const engine::PlanOutcome& outcome) const;
+    void drawChart(const std::vector<ChartLine>& lines);
     void print();
     // Paints the report with a progress dialog that can cancel it.
     Painted paintReport(QPagedPaintDevice& device);

@@ -173,7 +173,7 @@ inline constexpr Constant kYearHeader = KESTRUNE_TEXT(
 inline constexpr Constant kChartNames =
     KESTRUNE_TEXT("PlanWindow", "kChartNames",
                   "Balance\tBalance without events\tInterest paid\tInterest paid without events\tDate\tAmount");
-inline constexpr Constant kPointer = KESTRUNE_TEXT("PlanWindow", "kPointer", "Payment %1, %2: %3");
+inline constexpr Constant kPointer = KESTRUNE_TEXT("PlanWindow", "kPointer", "%4 — payment %1, %2: %3");
 inline constexpr Constant kEventsTitle =
     KESTRUNE_TEXT("PlanWindow", "kEventsTitle", "Prepayments, rate changes and fees");
 inline constexpr Constant kSaveFailed = KESTRUNE_TEXT("PlanWindow", "kSaveFailed", "\"%1\" could not be saved: %2");

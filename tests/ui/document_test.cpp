@@ -6,8 +6,10 @@
 #include "planner/document.h"
 #include "planner/planwindow.h"
 
+#include <QChartView>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLineSeries>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -112,6 +114,16 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     tool.replace("Payoff", "Pay off");
     EXPECT_EQ(shown, tool);
     EXPECT_EQ(compared->index(0, 1).data().toString(), "144");
+    // The chart: every scenario's balance and interest in a colour of its own, beside the loan's.
+    QStringList lines;
+    for (const QAbstractSeries* series : plan->Chart->chart()->series()) {
+        const QPen pen = static_cast<const QLineSeries*>(series)->pen();
+        lines << series->name() + " " + pen.color().name() + " " + QString::number(pen.style());
+    }
+    EXPECT_EQ(lines.join('|'), "Plan: Balance #1f5fbf 1|Scenario 2: Balance #d9480f 1|Later: Balance #2b8a3e 1|"
+                               "Balance without events #888888 2|Plan: Interest paid #184993 3|"
+                               "Scenario 2: Interest paid #a7370c 3|Later: Interest paid #216a30 3|"
+                               "Interest paid without events #696969 4");
     QTest::keyClick(plan->Scenarios, Qt::Key_End);
     QTest::mouseClick(plan->DeleteScenarioButton, Qt::LeftButton);
     QStringList names;
