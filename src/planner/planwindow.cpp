@@ -575,7 +575,7 @@ bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
     for (const QModelIndex& index : view->selectionModel()->selectedIndexes()) selected.insert(index.row());
     std::vector<table::Cells> rows;
     for (const int row : selected) rows.push_back(static_cast<CellsModel*>(view->model())->row(row));
-    if (!rows.empty()) QGuiApplication::clipboard()->setText(qs(table::toTsv(rows)));
+    if (!rows.empty()) copyRows(rows);
     return true;
 }
 
@@ -724,12 +724,13 @@ void PlanWindow::pasteEvents() {
     keepChange();
 }
 
-void PlanWindow::copySchedule() const {
-    const std::vector<table::Cells> all = m_schedule->all();
+void PlanWindow::copySchedule() const { copyRows(m_schedule->all()); }
+
+void PlanWindow::copyRows(const std::vector<table::Cells>& rows) {
     auto* mime = new QMimeData;
-    mime->setText(qs(table::toTsv(all)));
-    mime->setData("text/csv", QByteArray::fromStdString(table::toCsv(all)));
-    mime->setHtml(qs(table::toHtml(all)));
+    mime->setText(qs(table::toTsv(rows)));
+    mime->setData("text/csv", QByteArray::fromStdString(table::toCsv(rows)));
+    mime->setHtml(qs(table::toHtml(rows)));
     QGuiApplication::clipboard()->setMimeData(mime);
 }
 
@@ -765,6 +766,15 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     content.years.rowCount = years->size() - 1;
     content.years.row = [years](std::size_t row) { return (*years)[row + 1]; };
     content.years.firstAmount = 2;
+    // With several scenarios, their comparison.
+    if (m_main->document()->scenarios().size() > 1) {
+        showComparison();
+        auto compared = std::make_shared<const std::vector<table::Cells>>(m_comparison->all());
+        content.comparison.headings = m_comparison->headings();
+        content.comparison.rowCount = compared->size() - 1;
+        content.comparison.row = [compared](std::size_t row) { return (*compared)[row + 1]; };
+        content.comparison.firstAmount = 1;
+    }
     // The chart at the report's size, whatever size the view has (or had, where it was never shown).
     content.chart = QImage(1800, 1000, QImage::Format_RGB32);
     content.chart.fill(Qt::white);

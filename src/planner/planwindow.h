@@ -54,6 +54,8 @@ public:
     QUndoStack* undoStack() const { return m_undo; }
     // The whole schedule, headings and every row, for a spreadsheet.
     void copySchedule() const;
+    // Rows as text, CSV and HTML, for a spreadsheet or a document.
+    static void copyRows(const std::vector<table::Cells>& rows);
     // Saved whole or not at all; a failure is told in a message that names the file.
     bool saveCsv(const QString& path);
     bool exportPdf(const QString& path);

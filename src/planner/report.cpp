@@ -143,8 +143,10 @@ Painted paintReport(QPagedPaintDevice& device, const ReportContent& content,
             painter.drawImage(QRect(0, flow.y(), width, height), content.chart);
             flow.advance(height);
         }
-        flow.advance(line);
-        if (!paintTable(flow, painter, content.years, false)) return false;
+        for (const ReportTable* table : {&content.years, &content.comparison}) {
+            flow.advance(line);
+            if (!paintTable(flow, painter, *table, false)) return false;
+        }
         return flow.newPage() && paintTable(flow, painter, content.schedule, true);
     };
     const bool done = paint();

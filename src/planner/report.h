@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The plan as a printed report: its title and loan, its terms, the events, the figures, the chart
-// and the years, then the schedule, laid out page by page as it is painted, the headings of a
-// table at the top of every page it continues on. Nothing holds more than the page being painted, so that a schedule
-// of 100,000 payments prints in seconds and little memory.
+// The plan as a printed report: its title, its terms, the events, the figures, the chart, the
+// years and the scenarios compared, then the schedule, laid out page by page as it is painted,
+// the headings of a table at the top of every page it continues on. Nothing holds more than the
+// page being painted, so that a schedule of 100,000 payments prints in seconds and little memory.
 
 #include "table/rows.h"
 
@@ -31,6 +31,7 @@ struct ReportContent {
     std::vector<std::pair<QString, QString>> figures; // name and value
     QImage chart;
     ReportTable years;
+    ReportTable comparison; // of the scenarios, where there are several
     ReportTable schedule;
 };
 

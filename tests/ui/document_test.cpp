@@ -124,6 +124,14 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
                                "Balance without events #888888 2|Plan: Interest paid #184993 3|"
                                "Scenario 2: Interest paid #a7370c 3|Later: Interest paid #216a30 3|"
                                "Interest paid without events #696969 4");
+    // The report carries the comparison.
+    ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
+    pipe = popen(("pdftotext -layout " + dir.filePath("plan.pdf") + " -").toUtf8(), "r");
+    QString report;
+    for (int c; (c = std::fgetc(pipe)) != EOF;) report += QChar(c);
+    pclose(pipe);
+    for (const char* row : {"Measure Plan Scenario 2 Later Without events", "Net saving -10 -20 -20 0"})
+        EXPECT_TRUE(report.simplified().contains(row)) << row;
     QTest::keyClick(plan->Scenarios, Qt::Key_End);
     QTest::mouseClick(plan->DeleteScenarioButton, Qt::LeftButton);
     QStringList names;
