@@ -40,9 +40,9 @@ TEST(ScheduleTool, PrintsTheTableInEachFormat) {
                                                "001  20.04.08   781,684    650,264   131,420  99,349,736\n");
     // By months, cut to the yen: 99,349,823 x 2 % / 12 = 165,583.04 after a payment of 781,683.
     EXPECT_EQ(run(kLoan2020 + "--interest monthly --rounding down --first 2 --last 2 --format json").out,
-              "{\"payoff\": \"2032 / 3 / 8 \", \"header\": [\"No.\", \"Repayment\", \"Amount\", \"Principal\", "
-              "\"Interest\", \"Balance\"], \"rows\": [[\"002\", \"20.05.08\", \"781,683\", \"616,100\", "
-              "\"165,583\", \"98,733,723\"]], \"terms\": [\"interest monthly\", \"rounding down\"]}\n");
+              "{\"payoff\":\"2032 / 3 / 8 \",\"header\":[\"No.\",\"Repayment\",\"Amount\",\"Principal\","
+              "\"Interest\",\"Balance\"],\"rows\":[[\"002\",\"20.05.08\",\"781,683\",\"616,100\","
+              "\"165,583\",\"98,733,723\"]],\"terms\":[\"interest monthly\",\"rounding down\"]}\n");
     EXPECT_EQ(run("--era=western --year=2020 --month=3 --day=15 --method=flat --last=1").out,
               run(kLoan2020 + "--last 1").out)
         << "--option=value";
@@ -160,16 +160,16 @@ TEST(ScheduleTool, APlanReadWholeInEachFormat) {
                       "2018  Heisei 30         1  100,887    100,000       887        0      0  500,000\n"
                       "2019  Heisei 31         4  402,012    400,000     2,012  100,000  2,000        0\n"},
         {"--by-year --format json",
-         "{\"payoff\": \"Heisei  31 / 4 / 8 \", \"header\": [\"Year\", \"Era year\", \"Payments\", \"Amount\", "
-         "\"Principal\", \"Interest\", \"Prepaid\", \"Fees\", \"Balance\"], \"rows\": [], \"totals\": {\"payments\": "
-         "\"5\", \"paid\": \"604,899\", \"principal\": \"500,000\", \"interest\": \"2,899\", \"prepaid\": "
-         "\"100,000\", \"fees\": \"2,000\", \"payoff\": \"Heisei  31 / 4 / 8 \"}, \"savings\": {\"interest saved\": "
-         "\"1,725\", \"payments saved\": \"1 (0 years 1 months)\", \"net saving\": \"-275\", \"break-even "
-         "payment\": \"not within the loan\"}, \"events\": [\"prepay 2 100000 shorten\", \"rate 3 1.5\", \"fee 4 "
-         "2000\"], "
-         "\"years\": [[\"2018\", \"Heisei 30\", \"1\", \"100,887\", \"100,000\", \"887\", \"0\", \"0\", "
-         "\"500,000\"], [\"2019\", \"Heisei 31\", \"4\", \"402,012\", \"400,000\", \"2,012\", \"100,000\", "
-         "\"2,000\", \"0\"]]}\n"},
+         "{\"payoff\":\"Heisei  31 / 4 / 8 \",\"header\":[\"Year\",\"Era year\",\"Payments\",\"Amount\","
+         "\"Principal\",\"Interest\",\"Prepaid\",\"Fees\",\"Balance\"],\"rows\":[],\"totals\":{\"payments\":"
+         "\"5\",\"paid\":\"604,899\",\"principal\":\"500,000\",\"interest\":\"2,899\",\"prepaid\":"
+         "\"100,000\",\"fees\":\"2,000\",\"payoff\":\"Heisei  31 / 4 / 8 \"},\"savings\":{\"interest saved\":"
+         "\"1,725\",\"payments saved\":\"1 (0 years 1 months)\",\"net saving\":\"-275\",\"break-even "
+         "payment\":\"not within the loan\"},\"events\":[\"prepay 2 100000 shorten\",\"rate 3 1.5\",\"fee 4 "
+         "2000\"],"
+         "\"years\":[[\"2018\",\"Heisei 30\",\"1\",\"100,887\",\"100,000\",\"887\",\"0\",\"0\","
+         "\"500,000\"],[\"2019\",\"Heisei 31\",\"4\",\"402,012\",\"400,000\",\"2,012\",\"100,000\","
+         "\"2,000\",\"0\"]]}\n"},
     };
     for (const auto& [options, printed] : cases) {
         const Result r = run(kPlan + options);
@@ -202,14 +202,14 @@ TEST(ScheduleTool, APlanSavedAsADocumentAndReadBack) {
               "Deduction\t0\t0\t0\nNet cost\t2,899 *\t6,624\t4,624\nInterest saved\t1,725 *\t0\t0\n"
               "Net saving\t1,725 *\t-2,000\t0\nBreak-even payment\tno fees\tnot within the loan\tno fees\n");
     EXPECT_EQ(run("--plan " + file + ".json --compare --format json --rate-change 2:1e300 --last 0").out,
-              "{\"header\": [\"Measure\", \"A\", \"B\", \"Without events\"], \"rows\": [[\"Payments\", \"refused\", "
-              "\"6\", \"6\"], [\"Payoff\", \"refused\", \"Reiwa  1 / 5 / 8 \", \"Reiwa  1 / 5 / 8 \"], [\"Paid\", "
-              "\"refused\", \"606,624\", \"604,624\"], [\"Interest\", \"refused\", \"4,624\", \"4,624\"], [\"Fees\", "
-              "\"refused\", \"2,000\", \"0\"], [\"Deduction\", \"refused\", \"0\", \"0\"], [\"Net cost\", \"refused\", "
-              "\"6,624\", \"4,624\"], [\"Interest saved\", \"refused\", \"0\", \"0\"], [\"Net saving\", \"refused\", "
-              "\"-2,000\", \"0\"], [\"Break-even payment\", \"refused\", \"not within the loan\", \"no fees\"]], "
-              "\"best\": [[], [], [\"Without events\"], [], [\"Without events\"], [], [\"Without events\"], [], "
-              "[\"Without events\"], []]}\n");
+              "{\"header\":[\"Measure\",\"A\",\"B\",\"Without events\"],\"rows\":[[\"Payments\",\"refused\","
+              "\"6\",\"6\"],[\"Payoff\",\"refused\",\"Reiwa  1 / 5 / 8 \",\"Reiwa  1 / 5 / 8 \"],[\"Paid\","
+              "\"refused\",\"606,624\",\"604,624\"],[\"Interest\",\"refused\",\"4,624\",\"4,624\"],[\"Fees\","
+              "\"refused\",\"2,000\",\"0\"],[\"Deduction\",\"refused\",\"0\",\"0\"],[\"Net cost\",\"refused\","
+              "\"6,624\",\"4,624\"],[\"Interest saved\",\"refused\",\"0\",\"0\"],[\"Net saving\",\"refused\","
+              "\"-2,000\",\"0\"],[\"Break-even payment\",\"refused\",\"not within the loan\",\"no fees\"]],"
+              "\"best\":[[],[],[\"Without events\"],[],[\"Without events\"],[],[\"Without events\"],[],"
+              "[\"Without events\"],[]]}\n");
     std::filesystem::remove(file + ".kestrune");
     std::filesystem::remove(file + ".json");
 }
@@ -326,8 +326,8 @@ TEST(ScheduleTool, WithoutAYearTheBorrowingDateIsTodayInEveryEra) {
     localtime_r(&now, &local);
     const int year = local.tm_year + 1900;
     const std::string form = "--month 1 --day 1 --times 1 --format json --era ";
-    const std::string western = "{\"payoff\": \"" + std::to_string(year) + " / 1 / 8 \"";
-    const std::string reiwa = "{\"payoff\": \"Reiwa  " + std::to_string(year - 2018) + " / 1 / 8 \"";
+    const std::string western = "{\"payoff\":\"" + std::to_string(year) + " / 1 / 8 \"";
+    const std::string reiwa = "{\"payoff\":\"Reiwa  " + std::to_string(year - 2018) + " / 1 / 8 \"";
     EXPECT_EQ(run(form + "western").out.substr(0, western.size()), western);
     for (const char* era : {"showa", "heisei", "reiwa"})
         EXPECT_EQ(run(form + era).out.substr(0, reiwa.size()), reiwa) << era;

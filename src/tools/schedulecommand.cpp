@@ -11,6 +11,8 @@
 #include "strings/constants.h"
 #include "table/export.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -22,6 +24,8 @@
 
 namespace tools {
 namespace {
+
+using Json = nlohmann::ordered_json;
 
 constexpr std::string_view kUsage = R"(usage: kestrune-schedule [options]
 
@@ -117,30 +121,10 @@ table::Cells headerRow(table::PlanColumns columns) {
                                columns);
 }
 
-std::string jsonString(std::string_view text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        switch (c) {
-        case '"': quoted += "\\\""; break;
-        case '\\': quoted += "\\\\"; break;
-        case '\n': quoted += "\\n"; break;
-        case '\t': quoted += "\\t"; break;
-        default: quoted += c;
-        }
-    }
-    return quoted + '"';
-}
-
-std::string jsonArray(const table::Cells& cells) {
-    std::string text = "[";
-    for (std::size_t i = 0; i < cells.size(); ++i) text += (i > 0 ? ", " : "") + jsonString(cells[i]);
-    return text + "]";
-}
-
-std::string jsonArrays(const std::vector<table::Cells>& rows) {
-    std::string text = "[";
-    for (std::size_t i = 0; i < rows.size(); ++i) text += (i > 0 ? ", " : "") + jsonArray(rows[i]);
-    return text + "]";
+// A JSON document on one line, as nlohmann-json writes it: every text escaped, any byte that is
+// not UTF-8 replaced.
+void printJson(const Json& document, std::ostream& out) {
+    out << document.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
 // Columns padded to their widest cell: text columns (before `firstAmount`) to the left, amounts to the right.
@@ -275,9 +259,7 @@ void printComparison(const engine::PlanDocument& document, int format, std::ostr
     case 0: printAligned(header, rows, 1, out); break;
     case 1: out << table::toTsv({header}) << table::toTsv(rows); break;
     case 2: out << table::toCsv({header}) << table::toCsv(rows); break;
-    default:
-        out << "{\"header\": " << jsonArray(header) << ", \"rows\": " << jsonArrays(rows)
-            << ", \"best\": " << jsonArrays(best) << "}\n";
+    default: printJson({{"header", header}, {"rows", rows}, {"best", best}}, out);
     }
 }
 
@@ -493,27 +475,26 @@ int runScheduleCommand(const std::vector<std::string>& args, const calendar::Dat
         break;
     case 1: out << table::toTsv({header}) << table::toTsv(rows) << table::toTsv(totalRows); break;
     case 2: out << table::toCsv({header}) << table::toCsv(rows) << table::toCsv(totalRows); break;
-    default:
-        out << "{\"payoff\": " << jsonString(payoff) << ", \"header\": " << jsonArray(header)
-            << ", \"rows\": " << jsonArrays(byYear ? std::vector<table::Cells>{} : rows);
+    default: {
+        Json json{{"payoff", payoff}, {"header", header}, {"rows", byYear ? std::vector<table::Cells>{} : rows}};
         const auto object = [](const std::vector<std::pair<std::string, std::string>>& part) {
-            std::string text = "{";
-            for (std::size_t i = 0; i < part.size(); ++i)
-                text += (i > 0 ? ", " : "") + jsonString(part[i].first) + ": " + jsonString(part[i].second);
-            return text + "}";
+            Json figures = Json::object();
+            for (const auto& [name, value] : part) figures[name] = value;
+            return figures;
         };
-        if (plan) out << ", \"totals\": " << object(lines.totals);
-        if (!events.empty()) out << ", \"savings\": " << object(lines.savings);
+        if (plan) json["totals"] = object(lines.totals);
+        if (!events.empty()) json["savings"] = object(lines.savings);
         table::Cells set = engine::termLines(terms);
         if (deduction) set.push_back(engine::deductionLine(*deduction));
-        if (!set.empty()) out << ", \"terms\": " << jsonArray(set);
+        if (!set.empty()) json["terms"] = set;
         if (!events.empty()) {
             table::Cells read;
             for (const auto& event : events) read.push_back(engine::eventLine(event));
-            out << ", \"events\": " << jsonArray(read);
+            json["events"] = read;
         }
-        if (byYear) out << ", \"years\": " << jsonArrays(rows);
-        out << "}\n";
+        if (byYear) json["years"] = rows;
+        printJson(json, out);
+    }
     }
     return 0;
 }
