@@ -404,6 +404,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>プラン: %1、%2、年利 %3 %、%4 回</translation>
     </message>
     <message>
+        <source>kTotal</source>
+        <comment>Total</comment>
+        <translation>合計</translation>
+    </message>
+    <message>
         <source>kEventKinds</source>
         <comment>prepay	rate	fee</comment>
         <translation>繰上返済	金利変更	手数料</translation>

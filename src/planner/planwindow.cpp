@@ -189,7 +189,10 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
         Figures.push_back(value);
     }
 
-    const auto tableView = [this](CellsModel* model, const char* name) {
+    // Rows as tall as the main window's table has them.
+    const int rowHeight = fontMetrics().height() + 6;
+    Events->verticalHeader()->setDefaultSectionSize(rowHeight);
+    const auto tableView = [this, rowHeight](CellsModel* model, const char* name) {
         auto* view = new QTableView(this);
         view->setObjectName(name);
         view->setModel(model);
@@ -197,6 +200,7 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
         view->setSelectionBehavior(QAbstractItemView::SelectRows);
         view->setTabKeyNavigation(false);
         view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        view->verticalHeader()->setDefaultSectionSize(rowHeight);
         return view;
     };
     Schedule = tableView(m_schedule, "Schedule");
@@ -411,6 +415,8 @@ void PlanWindow::recalculate() {
     auto years = std::make_shared<std::vector<table::Cells>>(table::yearRowTexts(
         outcome.refusal == engine::Refusal::None ? outcome.years : std::vector<engine::YearFigures>{}, era, m_payDay,
         shell::MainWindow::payoffWords().eraNames, m_deduction));
+    if (!years->empty())
+        years->push_back(table::yearTotalsRow(outcome.years, text(strings::kTotal).toStdString(), m_deduction));
     QStringList yearHeadings = strings::fields(strings::kYearHeader, '\t');
     if (m_deduction) yearHeadings.insert(yearHeadings.size() - 1, text(strings::kDeductionHeading));
     m_years->setRows(yearHeadings, years->size(), [years](std::size_t row) { return (*years)[row]; });

@@ -81,4 +81,29 @@ std::vector<Cells> yearRowTexts(const std::vector<engine::YearFigures>& years, i
     return rows;
 }
 
+Cells yearTotalsRow(const std::vector<engine::YearFigures>& years, const std::string& total, bool withDeduction) {
+    engine::YearFigures sum;
+    for (const engine::YearFigures& y : years) {
+        sum.payments += y.payments;
+        sum.amount += y.amount;
+        sum.principal += y.principal;
+        sum.interest += y.interest;
+        sum.prepaid += y.prepaid;
+        sum.fees += y.fees;
+        sum.deduction += y.deduction;
+    }
+    const auto amount = [](double value) { return Format(value, kAmountMask); };
+    Cells row{total,
+              "",
+              runtime::Str(sum.payments),
+              amount(sum.amount),
+              amount(sum.principal),
+              amount(sum.interest),
+              amount(sum.prepaid),
+              amount(sum.fees),
+              ""};
+    if (withDeduction) row.insert(row.end() - 1, amount(sum.deduction));
+    return row;
+}
+
 } // namespace table

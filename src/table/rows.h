@@ -51,5 +51,8 @@ Cells planHeadings(const Cells& headings, const PlanHeadings& added, PlanColumns
 // With a tax deduction, each year's deduction before the balance.
 std::vector<Cells> yearRowTexts(const std::vector<engine::YearFigures>& years, int era, std::int64_t payDay,
                                 const std::array<std::string, calendar::kEraCount>& eraNames, bool withDeduction);
+// The years' sums in their columns under the word `total`: the payments and the amounts, no
+// balance.
+Cells yearTotalsRow(const std::vector<engine::YearFigures>& years, const std::string& total, bool withDeduction);
 
 } // namespace table

@@ -269,6 +269,10 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     EXPECT_EQ(figure(8), "5,899,594") << "the net saving of the net costs";
     EXPECT_EQ(plan->Years->model()->headerData(8, Qt::Horizontal).toString(), "Deduction");
     EXPECT_EQ(plan->Years->model()->index(0, 8).data().toString(), "206,500") << "2020";
+    const auto total = [this](int column) {
+        return plan->Years->model()->index(plan->Years->model()->rowCount() - 1, column).data().toString();
+    };
+    EXPECT_EQ((QStringList{total(0), total(2), total(8), total(9)}), (QStringList{"Total", figure(0), figure(11), ""}));
     // The first year copied from its tab, as the user clicks them.
     const QTabBar* tabs = plan->findChild<QTabBar*>();
     QTest::mouseClick(const_cast<QTabBar*>(tabs), Qt::LeftButton, {}, tabs->tabRect(1).center());
