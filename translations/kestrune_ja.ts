@@ -409,6 +409,22 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>合計</translation>
     </message>
     <message>
+        <source>kEventsHint</source>
+        <comment>No events yet. Insert or Add adds a prepayment; Ctrl+V pastes lines such as
+prepay 12 1,000,000 reduce every 12
+rate 61 1.5
+fee 61 33,000</comment>
+        <translation>予定はまだありません。Insert キーか「追加」で繰上返済を加え、Ctrl+V で次のような行を貼り付けます:
+prepay 12 1,000,000 reduce every 12
+rate 61 1.5
+fee 61 33,000</translation>
+    </message>
+    <message>
+        <source>kEventTips</source>
+        <comment>The payment the event goes with	A prepayment, a new annual rate or a fee	The amount, or the new annual rate in %	For a prepayment: fewer payments (shorten) or a smaller payment (reduce)	For a prepayment: again every so many payments; empty for once</comment>
+        <translation>予定を行う返済回	繰上返済・金利変更・手数料	金額、または新しい年利 (%)	繰上返済で、回数を減らす (期間短縮) か返済額を減らす (返済額軽減) か	繰上返済を繰り返す間隔 (回)。空欄なら一度だけ</translation>
+    </message>
+    <message>
         <source>kEventKinds</source>
         <comment>prepay	rate	fee</comment>
         <translation>繰上返済	金利変更	手数料</translation>

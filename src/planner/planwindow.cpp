@@ -136,6 +136,13 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     Events->setObjectName("Events");
     Events->setAccessibleName(text(strings::kEventsTitle));
     Events->setHorizontalHeaderLabels(strings::fields(strings::kEventHeader, '\t'));
+    const QStringList tips = strings::fields(strings::kEventTips, '\t');
+    for (int column = 0; column < 5; ++column) Events->horizontalHeaderItem(column)->setToolTip(tips.value(column));
+    // What to do, said where the events will be while there are none.
+    EventsHint = new QLabel(text(strings::kEventsHint));
+    EventsHint->setWordWrap(true);
+    EventsHint->setEnabled(false);
+    (new QVBoxLayout(Events->viewport()))->addWidget(EventsHint, 0, Qt::AlignTop);
     Events->setItemDelegate(new ChoiceDelegate(Events));
     Events->verticalHeader()->hide();
     Events->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
@@ -324,6 +331,10 @@ std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount,
         if (reading.event) {
             events.push_back(*reading.event);
             m_eventRows.push_back(row);
+            // An amount in whole yen shows its thousands separators, as every amount does.
+            const double value = reading.event->value;
+            if (reading.event->kind != engine::EventKind::RateChange && value == std::trunc(value))
+                Events->item(row, kValue)->setText(qs(runtime::Format(value, table::kAmountMask)));
         }
         // The last reason is the plan's refusal, for the row of the event that causes it.
         markRow(row, reading.event && row != refusedRow ? QString()
@@ -357,6 +368,7 @@ void PlanWindow::showEvent(QShowEvent* event) {
 }
 
 void PlanWindow::recalculate() {
+    EventsHint->setVisible(Events->rowCount() == 0);
     // A closed window waits to be shown again.
     if (!m_main || !isVisible()) return;
     const engine::LoanForm form = m_main->loanForm();
@@ -586,13 +598,18 @@ bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PlanWindow::addEvent() {
+    // A prepayment with the next payment from today, its amount left to type: marked until it is.
+    const QDate today = QDate::currentDate();
+    const auto next = std::find_if(m_payments.begin(), m_payments.end(),
+                                   [&today](const engine::Payment& p) { return dateTime(p.date).date() > today; });
+    const QString payment = QString::number(next == m_payments.end() ? 1 : next->number);
     const int row = Events->rowCount();
     m_reading = true;
     Events->insertRow(row);
-    const QString cells[] = {"1", shownWord(kKinds[0]), "0", shownWord(kModes[0]), ""};
+    const QString cells[] = {payment, shownWord(kKinds[0]), "", shownWord(kModes[0]), ""};
     for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
     m_reading = false;
-    Events->setCurrentCell(row, kPayment);
+    Events->setCurrentCell(row, kValue);
     recalculate();
 }
 
@@ -622,7 +639,7 @@ QString PlanWindow::rowLine(int row) const {
         return Events->item(row, column) ? toolWord(Events->item(row, column)->text().trimmed()) : QString();
     };
     for (const int column : {kKind, kPayment, kValue, kMode, kEvery}) {
-        if (column >= kMode && (cell(kKind) != kKinds[0] || cell(column).isEmpty())) continue;
+        if (cell(column).isEmpty() || (column >= kMode && cell(kKind) != kKinds[0])) continue;
         words << (column == kEvery ? "every " + cell(column) : cell(column));
     }
     return words.join(' ');
@@ -631,6 +648,8 @@ QString PlanWindow::rowLine(int row) const {
 // A row of the list from an event's line, its words in their cells.
 void PlanWindow::appendRow(const std::string& line) {
     QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
+    // A prepayment whose amount is still to be typed has its mode third.
+    if (words.size() > 2 && (kModes.contains(toolWord(words[2])) || words[2] == "every")) words.insert(2, "");
     QString cells[5] = {words.value(1), shownWord(words.value(0)), words.value(2), "", ""};
     for (int i = 3; i < words.size(); ++i) {
         if (words[i] == "every")

@@ -63,6 +63,7 @@ public:
     TermsBox* Terms;
     DeductionBox* Deduction;
     QTableWidget* Events;
+    QLabel* EventsHint; // shown while the list is empty
     QTableView* Schedule;
     QTableView* Years;
     // Every scenario and the loan without events side by side, the best of each measure in bold.

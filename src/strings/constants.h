@@ -133,6 +133,16 @@ inline constexpr Constant kPlanItem = KESTRUNE_TEXT("App", "kPlanItem", "Prepaym
 inline constexpr Constant kPlanTitle = KESTRUNE_TEXT("PlanWindow", "kPlanTitle", "Plan: %1, %2 at %3 %, %4 payments");
 // The kinds of event and the modes of a prepayment as the event list shows them, in the order of
 // the tool's words "prepay", "rate", "fee" and "shorten", "reduce".
+inline constexpr Constant kEventsHint =
+    KESTRUNE_TEXT("PlanWindow", "kEventsHint",
+                  "No events yet. Insert or Add adds a prepayment; Ctrl+V pastes lines such as\n"
+                  "prepay 12 1,000,000 reduce every 12\nrate 61 1.5\nfee 61 33,000");
+inline constexpr Constant kEventTips =
+    KESTRUNE_TEXT("PlanWindow", "kEventTips",
+                  "The payment the event goes with\tA prepayment, a new annual rate or a fee\t"
+                  "The amount, or the new annual rate in %\t"
+                  "For a prepayment: fewer payments (shorten) or a smaller payment (reduce)\t"
+                  "For a prepayment: again every so many payments; empty for once");
 inline constexpr Constant kTotal = KESTRUNE_TEXT("PlanWindow", "kTotal", "Total");
 inline constexpr Constant kEventKinds = KESTRUNE_TEXT("PlanWindow", "kEventKinds", "prepay\trate\tfee");
 inline constexpr Constant kPrepayModes = KESTRUNE_TEXT("PlanWindow", "kPrepayModes", "shorten\treduce");

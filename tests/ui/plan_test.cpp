@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDate>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -93,6 +94,12 @@ protected:
         for (const auto& line : s.events) all += line + "|";
         return all.substr(0, all.empty() ? 0 : all.size() - 1);
     }
+    // The payment after today of the loan (the first on 8 April 2020, then monthly): where Add puts
+    // an event.
+    static std::string nextPayment() {
+        const QDate today = QDate::currentDate();
+        return std::to_string((today.year() - 2020) * 12 + today.month() - 4 + 1 + (today.day() >= 8));
+    }
     planner::PlanWindow* plan = nullptr;
 };
 
@@ -114,7 +121,11 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
 }
 
 TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
+    EXPECT_TRUE(plan->EventsHint->isVisible()) << "what to do, while the list is empty";
+    EXPECT_EQ(plan->Events->horizontalHeaderItem(4)->toolTip(),
+              "For a prepayment: again every so many payments; empty for once");
     paste("rounding down\nfee 1 10\n");
+    EXPECT_FALSE(plan->EventsHint->isVisible());
     QTest::keyClick(plan->Events, Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(plan->isVisible()) << "Ctrl+W";
     showActive(w);
@@ -138,7 +149,9 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     ASSERT_EQ(plan->Events->rowCount(), 2);
-    EXPECT_EQ(std::pair(plan->Events->currentRow(), plan->Events->currentColumn()), std::pair(1, 0)) << "its payment";
+    EXPECT_EQ(std::pair(plan->Events->currentRow(), plan->Events->currentColumn()), std::pair(1, 2)) << "its amount";
+    EXPECT_EQ(plan->Events->item(1, 0)->text().toStdString(), nextPayment());
+    EXPECT_EQ(plan->Events->item(1, 2)->background().color(), QColor(255, 210, 210)) << "marked until typed";
     plan->Events->removeRow(1);
     // Typed into the cells: F2 edits, Return ends the edit.
     for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1,000,000"}, {4, "60"}}) {
@@ -204,8 +217,10 @@ TEST_F(PlanTest, ChangesAreUndoneAndRedone) {
     plan->Events->setCurrentCell(0, 0);
     QTest::keyClick(plan->Events, Qt::Key_Delete);
     const auto lines = [this] { return scenarioLines(plan->scenario()); };
-    const std::string steps[] = {"rounding down|prepay 1 5 shorten", "rounding down|fee 1 10|prepay 1 5 shorten",
-                                 "rounding down|fee 1 10|prepay 1 0 shorten", "rounding down|fee 1 10", ""};
+    const std::string added = "prepay " + nextPayment();
+    const std::string steps[] = {"rounding down|" + added + " 5 shorten",
+                                 "rounding down|fee 1 10|" + added + " 5 shorten",
+                                 "rounding down|fee 1 10|" + added + " shorten", "rounding down|fee 1 10", ""};
     for (const std::string& step : steps) {
         EXPECT_EQ(lines(), step);
         QTest::keyClick(plan->Events, Qt::Key_Z, Qt::ControlModifier);
@@ -231,7 +246,8 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
     EXPECT_EQ(shown.join('|'), "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "prepay 12 1,000,000 reduce\nfee 1 10\nprepay 1 0 shorten\n");
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
+              "prepay 12 1,000,000 reduce\nfee 1 10\nprepay " + nextPayment() + " shorten\n");
     EXPECT_EQ(figure(4), "10");
 }
 
@@ -341,7 +357,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
         " Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments ",
         " Lender terms: by months, as lenders count it; Round amounts down to the yen; Bonus part: 3,000,000 (6, 12); "
         "Five-year and 125 % rules No deduction from 2022: the term is now shorter than ten years ",
-        " Payment Kind Value Mode Every 12 prepay 500000 reduce 12 13 fee 1,000 30 prepay 25,000,000 ",
+        " Payment Kind Value Mode Every 12 prepay 500,000 reduce 12 13 fee 1,000 30 prepay 25,000,000 ",
         " Total interest " + figure(2).toStdString() + " ",
         " Deduction " + figure(11).toStdString() + " ",
         " Year Era year Payments Amount Principal Interest Prepaid Fees Deduction Balance " + row(0, plan->Years) +
