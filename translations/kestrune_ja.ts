@@ -79,6 +79,16 @@ or Flat payment Calculation</comment>
         <translation>すべてを選択(&amp;A)</translation>
     </message>
     <message>
+        <source>kHelpMenu</source>
+        <comment>&amp;Help</comment>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>kHelpUsage</source>
+        <comment>&amp;Usage</comment>
+        <translation>使い方(&amp;U)</translation>
+    </message>
+    <message>
         <source>kAppleAbout</source>
         <comment>A&amp;bout this App</comment>
         <translation>Kestrune について(&amp;B)</translation>

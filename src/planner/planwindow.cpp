@@ -208,14 +208,22 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
         view->setTabKeyNavigation(false);
         view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
         view->verticalHeader()->setDefaultSectionSize(rowHeight);
+        // Copy takes the selected rows (also by its key, through the event filter).
+        view->installEventFilter(this);
+        view->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(view, &QWidget::customContextMenuRequested, this, [this, view](QPoint at) {
+            QMenu menu(this);
+            menu.addAction(text(strings::kEditCopy), this, [view] { copySelectedRows(view); })
+                ->setEnabled(view->selectionModel()->hasSelection());
+            menu.addAction(strings::withoutMnemonic(strings::kCopySchedule), this, &PlanWindow::copySchedule);
+            menu.exec(view->viewport()->mapToGlobal(at));
+        });
         return view;
     };
     Schedule = tableView(m_schedule, "Schedule");
     Years = tableView(m_years, "Years");
     m_comparison = new CellsModel(1, this);
     Comparison = tableView(m_comparison, "Comparison");
-    // Copy takes the selected rows of each table.
-    for (QTableView* view : {Schedule, Years, Comparison}) view->installEventFilter(this);
     Chart = new QChartView(this);
     Chart->setRenderHint(QPainter::Antialiasing);
     const QStringList tabNames = strings::fields(strings::kTabs, '\t');
@@ -589,12 +597,16 @@ bool PlanWindow::eventFilter(QObject* watched, QEvent* event) {
     auto* view = qobject_cast<QTableView*>(watched);
     if (!view || event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
         return QWidget::eventFilter(watched, event);
+    copySelectedRows(view);
+    return true;
+}
+
+void PlanWindow::copySelectedRows(const QTableView* view) {
     std::set<int> selected;
     for (const QModelIndex& index : view->selectionModel()->selectedIndexes()) selected.insert(index.row());
     std::vector<table::Cells> rows;
     for (const int row : selected) rows.push_back(static_cast<CellsModel*>(view->model())->row(row));
     if (!rows.empty()) copyRows(rows);
-    return true;
 }
 
 void PlanWindow::addEvent() {

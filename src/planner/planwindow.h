@@ -56,6 +56,7 @@ public:
     void copySchedule() const;
     // Rows as text, CSV and HTML, for a spreadsheet or a document.
     static void copyRows(const std::vector<table::Cells>& rows);
+    static void copySelectedRows(const QTableView* view);
     // Saved whole or not at all; a failure is told in a message that names the file.
     bool saveCsv(const QString& path);
     bool exportPdf(const QString& path);

@@ -301,6 +301,16 @@ void MainWindow::bindHandlers() {
     connect(BevelDelBelow, &BevelButton::Action, this, &MainWindow::BevelDelBelow_Action);
     connect(BevelNewNext, &BevelButton::Action, this, &MainWindow::BevelNewNext_Action);
     connect(HelpBtn, &BevelButton::Action, this, &MainWindow::HelpBtn_Action);
+    // The table's context menu: Copy, and what the buttons about it do.
+    ListBox1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(ListBox1, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+        QMenu menu(this);
+        menu.addAction(text(strings::kEditCopy), this, [this] { editCommand(EditCommand::Copy); })
+            ->setEnabled(!ListBox1->SelectedRows().empty());
+        for (BevelButton* button : {SelectAllButton, BevelDelBelow, BevelNewNext})
+            menu.addAction(button->text(), button, &QAbstractButton::click)->setEnabled(button->isEnabled());
+        menu.exec(ListBox1->viewport()->mapToGlobal(at));
+    });
 }
 
 void MainWindow::setForm(const engine::LoanForm& form) {

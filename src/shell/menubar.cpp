@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/menubar.h"
 
+#include "controls/bevelbutton.h"
 #include "planner/document.h"
 
 #include "shell/app.h"
@@ -78,16 +79,25 @@ void buildMenuBar(QMenuBar* bar, MainWindow* window) {
             QObject::connect(action, &QAction::triggered, window,
                              [window, command = item.command] { window->editCommand(command); });
     }
-    QAction* about = addItem(editMenu, "AppleAbout", strings::kAppleAbout);
+    if (window) {
+        QMenu* planMenu = bar->addMenu(strings::text(strings::kPlanMenu));
+        planMenu->setObjectName("PlanMenu");
+        QAction* plan =
+            addItem(planMenu, "PlanEvents", strings::kPlanItem, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
+        QObject::connect(plan, &QAction::triggered, window, &MainWindow::showPlan);
+    }
+    // Help: the usage window, as the window's Usage button opens it, and About.
+    QMenu* helpMenu = bar->addMenu(strings::text(strings::kHelpMenu));
+    helpMenu->setObjectName("HelpMenu");
+    QAction* usage = addItem(helpMenu, "HelpUsage", strings::kHelpUsage, QKeySequence::HelpContents);
+    QAction* about = addItem(helpMenu, "AppleAbout", strings::kAppleAbout);
     about->setMenuRole(QAction::AboutRole);
-    about->setEnabled(window != nullptr);
-    if (window) QObject::connect(about, &QAction::triggered, window, &MainWindow::_AppleAbout_Action);
+    for (QAction* item : {usage, about}) item->setEnabled(window != nullptr);
     if (!window) return;
-
-    QMenu* planMenu = bar->addMenu(strings::text(strings::kPlanMenu));
-    planMenu->setObjectName("PlanMenu");
-    QAction* plan = addItem(planMenu, "PlanEvents", strings::kPlanItem, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
-    QObject::connect(plan, &QAction::triggered, window, &MainWindow::showPlan);
+    QObject::connect(usage, &QAction::triggered, window, [window] {
+        if (!window->HelpBtn->Value()) window->HelpBtn->click();
+    });
+    QObject::connect(about, &QAction::triggered, window, &MainWindow::_AppleAbout_Action);
 
     // The menu offers the edit commands the focused control can carry out when it opens. Closed,
     // every command stays enabled, so that its shortcut always reaches the window, which acts

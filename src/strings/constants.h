@@ -43,6 +43,8 @@ inline constexpr Constant kEditCopy = KESTRUNE_TEXT("App", "kEditCopy", "&Copy")
 inline constexpr Constant kEditPaste = KESTRUNE_TEXT("App", "kEditPaste", "&Paste");
 inline constexpr Constant kEditClear = KESTRUNE_TEXT("App", "kEditClear", "&Delete");
 inline constexpr Constant kEditSelectAll = KESTRUNE_TEXT("App", "kEditSelectAll", "Select &All");
+inline constexpr Constant kHelpMenu = KESTRUNE_TEXT("App", "kHelpMenu", "&Help");
+inline constexpr Constant kHelpUsage = KESTRUNE_TEXT("App", "kHelpUsage", "&Usage");
 inline constexpr Constant kAppleAbout = KESTRUNE_TEXT("App", "kAppleAbout", "A&bout this App");
 
 // MainWindow
@@ -257,6 +259,8 @@ inline constexpr std::array kAllConstants{kAppName,
                                           kEditClear,
                                           kEditSelectAll,
                                           kAppleAbout,
+                                          kHelpMenu,
+                                          kHelpUsage,
                                           kHelpButton,
                                           kLabelText0,
                                           kLabelText1,

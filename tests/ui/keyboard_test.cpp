@@ -8,9 +8,9 @@
 
 #include <QAccessible>
 #include <QClipboard>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
-#include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTableWidget>

@@ -289,16 +289,15 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
         return plan->Years->model()->index(plan->Years->model()->rowCount() - 1, column).data().toString();
     };
     EXPECT_EQ((QStringList{total(0), total(2), total(8), total(9)}), (QStringList{"Total", figure(0), figure(11), ""}));
-    // The first year copied from its tab, as the user clicks them.
+    // The first year copied from its tab and its context menu, as the user clicks them.
     const QTabBar* tabs = plan->findChild<QTabBar*>();
     QTest::mouseClick(const_cast<QTabBar*>(tabs), Qt::LeftButton, {}, tabs->tabRect(1).center());
-    QTest::mouseClick(plan->Years->viewport(), Qt::LeftButton, {},
-                      plan->Years->visualRect(plan->Years->model()->index(0, 0)).center());
-    QTest::keyClick(plan->Years, Qt::Key_C, Qt::ControlModifier);
+    contextMenu(plan->Years, 0, "&Copy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               QString::fromStdString(row(0, plan->Years)).replace(' ', '\t') + "\n");
     plan->Events->item(0, 2)->setText("1,000,000");
     EXPECT_EQ(figure(0), "402") << "a cell edited after a paste";
+    showActive(plan);
     plan->Events->setFocus();
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);

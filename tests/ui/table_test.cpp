@@ -92,10 +92,9 @@ TEST_F(TableTest, RecombinationMovesTheRowsBelowToANewWindow) {
     form.date = {"30", "3", "15", "20"};
     form.flatPayment = true;
     setForm(form);
-    clickRow(20); // 2019-11-20, shown under Reiwa
-    ASSERT_EQ(cell(20, table::kDate), "01.11.20");
+    ASSERT_EQ(cell(20, table::kDate), "01.11.20"); // 2019-11-20, shown under Reiwa
     const std::string balance = cell(20, table::kBalance);
-    w->BevelNewNext->click();
+    contextMenu(w->ListBox1, 20, "Recombination");
     EXPECT_EQ(rows(), 21) << "the old window ends at the selected payment";
     MainWindow* next = newestWindow();
     ASSERT_NE(next, nullptr);

@@ -3,7 +3,9 @@
 
 #include "shell/helpwindow.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
@@ -36,6 +38,15 @@ QAction* menuItem(QMainWindow* window, const char* name) {
     return nullptr;
 }
 
+void contextMenu(QAbstractItemView* view, int row, const QString& item) {
+    view->scrollTo(view->model()->index(row, 0));
+    const QPoint at = view->visualRect(view->model()->index(row, 0)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+    answer(item);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, view->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(view->viewport(), &event);
+}
+
 void answer(const QString& text, QMessageBox::StandardButton button) {
     QTimer::singleShot(0, [text, button] {
         if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
@@ -46,6 +57,10 @@ void answer(const QString& text, QMessageBox::StandardButton button) {
             input->accept();
         } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             box->button(button)->click();
+        } else if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            for (QAction* item : menu->actions())
+                if (item->text() == text) item->trigger();
+            menu->close();
         }
     });
 }

@@ -122,7 +122,11 @@ TEST_F(WindowTest, ResizingFollowsTheLocks) {
 }
 
 TEST_F(WindowTest, TheHelpWindowStandsBesideItsWindowAndReleasesItsButton) {
-    w->HelpBtn->click();
+    QStringList items;
+    for (const QAction* item : w->menuBar()->findChild<QMenu*>("HelpMenu")->actions()) items << item->text();
+    EXPECT_EQ(items.join('|'), "&Usage|A&bout this App");
+    QTest::keyClick(w, Qt::Key_F1);
+    EXPECT_TRUE(w->HelpBtn->Value()) << "F1 opens it as its button does";
     shell::HelpWindow* help = App::instance()->helpWindow();
     EXPECT_TRUE(help->isVisible());
     // The offscreen screen has no room on the right: the help window stands flush left, frame to frame.
