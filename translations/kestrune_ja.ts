@@ -414,6 +414,11 @@ Press this to select all rows. Originally, the total interest of the selected ro
         <translation>プラン: %1、%2、年利 %3 %、%4 回</translation>
     </message>
     <message>
+        <source>kReportDates</source>
+        <comment>Borrowed on %1, paid on day %2 of each month</comment>
+        <translation>借入日 %1、毎月 %2 日返済</translation>
+    </message>
+    <message>
         <source>kTotal</source>
         <comment>Total</comment>
         <translation>合計</translation>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "planner/planwindow.h"
 
+#include "calendar/loandates.h"
 #include "controls/locks.h"
 #include "engine/calculation.h"
 #include "form/amountfields.h"
@@ -552,7 +553,7 @@ void PlanWindow::drawChart(const std::vector<ChartLine>& lines) {
         series->setPen(QPen(line.colour, 2, line.style));
         const std::vector<engine::Payment>& payments = line.payments;
         const std::size_t step = std::max<std::size_t>(1, (payments.size() + pixels - 1) / pixels);
-        std::vector<std::int64_t> numbers; // the payment of each point
+        std::vector<engine::Payment> shown; // the payment of each point
         double total = 0;
         for (std::size_t i = 0; i < payments.size(); ++i) {
             total += payments[i].interest;
@@ -562,22 +563,24 @@ void PlanWindow::drawChart(const std::vector<ChartLine>& lines) {
             first = std::min(first, at);
             last = std::max(last, at);
             series->append(static_cast<double>(at), line.interest ? total : payments[i].balance);
-            numbers.push_back(payments[i].number);
+            shown.push_back(payments[i]);
         }
         chart->addSeries(series);
         series->attachAxis(dates);
         series->attachAxis(amounts);
-        // The series' own figure at the point nearest the pointer, with its payment and date.
-        connect(series, &QLineSeries::hovered, this, [this, series, numbers](QPointF point, bool inside) {
+        // The series' own figure at the point nearest the pointer, with its payment and its date as
+        // the figures write dates.
+        connect(series, &QLineSeries::hovered, this, [this, series, shown](QPointF point, bool inside) {
             const QList<QPointF> points = series->points();
             if (!inside || points.isEmpty()) return;
             const auto nearest = std::min_element(points.begin(), points.end(), [&point](QPointF a, QPointF b) {
                 return std::abs(a.x() - point.x()) < std::abs(b.x() - point.x());
             });
-            const QDate date = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(nearest->x())).date();
+            const engine::Payment& payment = shown.at(static_cast<std::size_t>(nearest - points.begin()));
             QToolTip::showText(QCursor::pos(), text(strings::kPointer)
-                                                   .arg(numbers.at(static_cast<std::size_t>(nearest - points.begin())))
-                                                   .arg(QLocale().toString(date, QLocale::ShortFormat))
+                                                   .arg(payment.number)
+                                                   .arg(qs(calendar::payoffText(payment.date, m_main->loanForm().era,
+                                                                                shell::MainWindow::payoffWords())))
                                                    .arg(qs(runtime::Format(nearest->y(), table::kAmountMask)))
                                                    .arg(series->name()));
         });
@@ -792,9 +795,15 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     content.events.row = [events](std::size_t row) { return events[row]; };
     content.events.firstAmount = kValue;
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
+    // The loan's dates under its title, as the figures write dates.
+    const engine::LoanTerms loan = engine::readLoanForm(m_main->loanForm());
+    content.terms = text(strings::kReportDates)
+                        .arg(qs(calendar::payoffText(calendar::loanDates(loan.dateLine, loan.paymentCount).borrowed,
+                                                     m_main->loanForm().era, shell::MainWindow::payoffWords())))
+                        .arg(loan.dateLine.payDay);
     if (const QString terms = Terms->described(); !terms.isEmpty())
-        content.terms = text(strings::kTermsTitle) + ": " + terms;
-    if (!Deduction->Note->isHidden()) content.terms += (content.terms.isEmpty() ? "" : "\n") + Deduction->Note->text();
+        content.terms += "\n" + text(strings::kTermsTitle) + ": " + terms;
+    if (!Deduction->Note->isHidden()) content.terms += "\n" + Deduction->Note->text();
     for (std::size_t i = 0; i < Figures.size(); ++i)
         if (m_figures->isRowVisible(static_cast<int>(i)))
             content.figures.emplace_back(names.value(static_cast<int>(i)), Figures[i]->text());

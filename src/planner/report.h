@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The plan as a printed report: its title, its terms, the events, the figures, the chart, the
+// The plan as a printed report: its title, its dates and terms, the events, the figures, the chart, the
 // years and the scenarios compared, then the schedule, laid out page by page as it is painted,
 // the headings of a table at the top of every page it continues on. Nothing holds more than the
 // page being painted, so that a schedule of 100,000 payments prints in seconds and little memory.
@@ -26,7 +26,7 @@ struct ReportTable {
 
 struct ReportContent {
     QString title;
-    QString terms; // the lender terms in words and the deduction's note, under the title; empty with none
+    QString terms; // under the title: the loan's dates, the lender terms in words, the deduction's note
     ReportTable events;
     std::vector<std::pair<QString, QString>> figures; // name and value
     QImage chart;

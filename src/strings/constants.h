@@ -145,6 +145,8 @@ inline constexpr Constant kEventTips =
                   "The amount, or the new annual rate in %\t"
                   "For a prepayment: fewer payments (shorten) or a smaller payment (reduce)\t"
                   "For a prepayment: again every so many payments; empty for once");
+inline constexpr Constant kReportDates =
+    KESTRUNE_TEXT("PlanWindow", "kReportDates", "Borrowed on %1, paid on day %2 of each month");
 inline constexpr Constant kTotal = KESTRUNE_TEXT("PlanWindow", "kTotal", "Total");
 inline constexpr Constant kEventKinds = KESTRUNE_TEXT("PlanWindow", "kEventKinds", "prepay\trate\tfee");
 inline constexpr Constant kPrepayModes = KESTRUNE_TEXT("PlanWindow", "kPrepayModes", "shorten\treduce");

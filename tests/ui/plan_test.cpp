@@ -28,6 +28,7 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolTip>
 
 #include <cstdio>
 #include <fstream>
@@ -205,6 +206,10 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
               rows->index(0, rows->columnCount() - 1).data().toString().remove(','))
         << "the balance after the first payment";
     EXPECT_GT(static_cast<QLineSeries*>(plan->Chart->chart()->series().at(1))->count(), 0) << "without events";
+    // A point's tooltip: its series, payment and date, and the series' own figure there.
+    auto* interest = static_cast<QLineSeries*>(plan->Chart->chart()->series().at(2));
+    emit interest->hovered(interest->at(0), true);
+    EXPECT_EQ(QToolTip::text(), "Interest paid — payment 1, 2020 / 4 / 8 : " + rows->index(0, 4).data().toString());
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
 }
 
@@ -353,7 +358,8 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     std::string text = " " + pdfText(dir.filePath("plan.pdf"));
     std::replace(text.begin(), text.end(), '\n', ' ');
     const std::string expected[] = {
-        " Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments ",
+        " Plan: Flat payment, 30,000,000 at 1.5 %, 420 payments Borrowed on 2020 / 3 / 15 , paid on day 8 of each "
+        "month ",
         " Lender terms: by months, as lenders count it; Round amounts down to the yen; Bonus part: 3,000,000 (6, 12); "
         "Five-year and 125 % rules No deduction from 2022: the term is now shorter than ten years ",
         " Payment Kind Value Mode Every 12 prepay 500,000 reduce 12 13 fee 1,000 30 prepay 25,000,000 ",
