@@ -123,7 +123,7 @@ private:
 };
 
 PlanWindow::PlanWindow(shell::MainWindow* main)
-    : QWidget(main, Qt::Window), m_main(main), m_undo(new QUndoStack(this)),
+    : QMainWindow(main, Qt::Window), m_main(main), m_undo(new QUndoStack(this)),
       m_schedule(new CellsModel(table::kAmount, this)), m_years(new CellsModel(3, this)) {
     // Closing hides it: its terms and events belong to its main window's loan and come back when
     // it is opened again. It goes with its main window.
@@ -309,7 +309,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setAccessibleName(strings::withoutMnemonic(strings::kPlanMenu));
-    auto* window = new QVBoxLayout(this);
+    auto* central = new QWidget;
+    auto* window = new QVBoxLayout(central);
     window->setContentsMargins({});
     auto* menus = new QMenuBar;
     QMenu* edit = menus->addMenu(text(strings::kEditMenu));
@@ -318,10 +319,11 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     undo->setShortcuts(QKeySequence::Undo);
     redo->setShortcuts(QKeySequence::Redo);
     edit->addActions({undo, redo});
-    window->setMenuBar(menus);
+    setMenuBar(menus);
     window->addWidget(scroll);
     bottom->setContentsMargins(layout->contentsMargins());
     window->addLayout(bottom);
+    setCentralWidget(central);
     // As much larger as a field is taller in this font than in the design's, within the screen.
     const double scale = std::max(1.0, Terms->BonusAmount->sizeHint().height() / 22.0);
     controls::resizeWithinScreen(this, (QSize(920, 760) * scale).expandedTo(content->minimumSizeHint()));
@@ -450,7 +452,11 @@ void PlanWindow::recalculate() {
 
 void PlanWindow::showFigures(const engine::PlanOutcome& outcome, int era) {
     const QStringList values = outcome.refusal == engine::Refusal::None ? figureTexts(outcome, era) : QStringList();
-    for (std::size_t i = 0; i < Figures.size(); ++i) Figures[i]->setText(values.value(static_cast<int>(i)));
+    // A screen reader reads each figure by its name, then its value.
+    for (std::size_t i = 0; i < Figures.size(); ++i) {
+        Figures[i]->setText(values.value(static_cast<int>(i)));
+        Figures[i]->setAccessibleDescription(Figures[i]->text());
+    }
 }
 
 void PlanWindow::showComparison() {

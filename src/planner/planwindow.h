@@ -10,7 +10,7 @@
 
 #include <QColor>
 #include <QPointer>
-#include <QWidget>
+#include <QMainWindow>
 
 class QChartView;
 class QComboBox;
@@ -33,7 +33,7 @@ class CellsModel;
 class DeductionBox;
 class TermsBox;
 
-class PlanWindow : public QWidget {
+class PlanWindow : public QMainWindow {
     Q_OBJECT
 public:
     explicit PlanWindow(shell::MainWindow* main);

@@ -15,7 +15,7 @@
 namespace shell {
 
 HelpWindow::HelpWindow(QWidget* parent)
-    : QWidget(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
+    : QDialog(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName("HelpWindow");
     setWindowTitle(strings::text(strings::kAppName));
@@ -51,7 +51,7 @@ void HelpWindow::Event_Close() {
 
 void HelpWindow::closeEvent(QCloseEvent* event) {
     Event_Close();
-    QWidget::closeEvent(event);
+    QDialog::closeEvent(event);
 }
 
 } // namespace shell

@@ -4,7 +4,7 @@
 // windows; closing it with its close button destroys it and releases the parent's HelpBtn.
 
 #include <QPointer>
-#include <QWidget>
+#include <QDialog>
 
 class QLabel;
 
@@ -12,7 +12,7 @@ namespace shell {
 
 class MainWindow;
 
-class HelpWindow : public QWidget {
+class HelpWindow : public QDialog {
     Q_OBJECT
 public:
     explicit HelpWindow(QWidget* parent = nullptr);
@@ -25,6 +25,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Escape closes it, as its close button does.
+    void reject() override { close(); }
 };
 
 } // namespace shell

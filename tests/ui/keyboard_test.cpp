@@ -165,6 +165,13 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         // Every button, label, group and menu of the Plan window has a key of its own, and the file
         // dialogs' titles show none.
         auto* plan = w->findChild<planner::PlanWindow*>();
+        // The Plan and help windows are windows to a screen reader, and a figure is read with its value.
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(plan)->role(), QAccessible::Window);
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(shell::App::instance()->helpWindow())->role(),
+                  QAccessible::Dialog);
+        const QAccessibleInterface* paid = QAccessible::queryAccessibleInterface(plan->Figures[1]);
+        EXPECT_EQ(paid->text(QAccessible::Name) + ": " + paid->text(QAccessible::Description),
+                  (japanese ? "支払総額: " : "Total paid: ") + plan->Figures[1]->text());
         QStringList texts;
         for (const QAbstractButton* button : plan->findChildren<QAbstractButton*>()) texts << button->text();
         for (const QLabel* label : plan->findChildren<QLabel*>()) texts << label->text();
