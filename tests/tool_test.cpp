@@ -80,8 +80,6 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--frobnicate 1", 2, "kestrune-schedule: unknown option: --frobnicate\n"},
         {"--rate", 2, "kestrune-schedule: missing value for --rate\n"},
         {"--prepay 145:100", 2, "kestrune-schedule: bad event: payment outside 1 to the count: prepay 145 100\n"},
-        {"--fee 3:-5", 2, "kestrune-schedule: bad event: negative amount: fee 3 -5\n"},
-        {"--rounding up", 2, "kestrune-schedule: bad term: rounding takes nearest or down: rounding up\n"},
         {"--bonus 1000:6,6", 2,
          "kestrune-schedule: bad term: bonus takes an amount above 0 and two different months from 1 to 12: bonus "
          "1000 6 6\n"},
@@ -89,9 +87,6 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
          "kestrune-schedule: bad term: the bonus part 50,000,001 is more than half the principal\n"},
         {"--times 2 --month 1 --bonus 1", 2, "kestrune-schedule: bad term: no payment falls in month 6 or 12\n"},
         {"--review", 2, "kestrune-schedule: bad term: the five-year and 125 % rules are for a flat payment only\n"},
-        {"--deduction 1:x", 2,
-         "kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" "
-         "an amount, all at least 0: deduction 1 x 30000000\n"},
         {"--deduction 1:2:3:2030:5:6", 2,
          "kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, \"from\" a year and \"limit\" "
          "an amount, all at least 0: deduction 1 2 3 from 2030 limit 5 6\n"},
@@ -101,9 +96,6 @@ TEST(ScheduleTool, RefusalsBadOptionsAndWriteErrors) {
         {"--events /dev/zero", 2,
          "kestrune-schedule: cannot read events from /dev/zero: line 1 is longer than 1,000 characters\n"},
         {"--events /", 2, "kestrune-schedule: cannot read events from /: Is a directory\n"},
-        {"--events /nonexistent", 2,
-         "kestrune-schedule: cannot read events from /nonexistent: No such file or directory\n"},
-        {"--plan /", 2, "kestrune-schedule: cannot read the plan /: Is a directory\n"},
         {"--plan /dev/zero", 2, "kestrune-schedule: cannot read the plan /dev/zero: larger than 16 MB\n"},
         {"--plan /dev/null", 2,
          "kestrune-schedule: cannot read the plan /dev/null: not JSON: an error at line 1, column 1\n"},
