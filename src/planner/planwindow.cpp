@@ -40,6 +40,7 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -59,6 +60,8 @@ namespace {
 
 using strings::text;
 
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
 enum EventColumn { kPayment, kKind, kValue, kMode, kEvery };
 const QStringList kKinds{"prepay", "rate", "fee"};
 const QStringList kModes{"shorten", "reduce"};
@@ -71,14 +74,21 @@ QString toolWord(const QString& word) {
     return word;
 }
 
+// An amount of a prepayment or fee in whole yen with its thousands separators, as every amount
+// shows; any other value as it is.
+QString amountShown(const QString& kind, const QString& value) {
+    static const QRegularExpression whole("^[0-9]{1,15}$");
+    const QString digits = QString(value).remove(',');
+    if (kind == kKinds[1] || !whole.match(digits).hasMatch()) return value;
+    return qs(runtime::Format(runtime::Val(digits.toStdString()), table::kAmountMask));
+}
+
 // A kind or mode of the tool's in the user's language; any other word as it is.
 QString shownWord(const QString& word) {
     if (const auto i = kKinds.indexOf(word); i >= 0) return strings::fields(strings::kEventKinds, '\t').value(i);
     if (const auto i = kModes.indexOf(word); i >= 0) return strings::fields(strings::kPrepayModes, '\t').value(i);
     return word;
 }
-
-QString qs(const std::string& s) { return QString::fromStdString(s); }
 
 // Kind and mode are chosen from lists.
 class ChoiceDelegate : public QStyledItemDelegate {
@@ -236,6 +246,8 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     tabs->addTab(Chart, tabNames.value(2));
     tabs->addTab(Comparison, tabNames.value(3));
     for (int i = 0; i < 4; ++i) tabs->widget(i)->setAccessibleName(tabNames.value(i));
+    // Room for a table or the chart to read, where the window must scroll for it.
+    tabs->setMinimumHeight(fontMetrics().height() * 18);
     // The comparison works out every scenario: only while it is shown.
     connect(tabs, &QTabWidget::currentChanged, this, [this] {
         if (m_tabs->currentWidget() == Comparison) showComparison();
@@ -342,10 +354,10 @@ std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount,
         if (reading.event) {
             events.push_back(*reading.event);
             m_eventRows.push_back(row);
-            // An amount in whole yen shows its thousands separators, as every amount does.
-            const double value = reading.event->value;
-            if (reading.event->kind != engine::EventKind::RateChange && value == std::trunc(value))
-                Events->item(row, kValue)->setText(qs(runtime::Format(value, table::kAmountMask)));
+            QTableWidgetItem* value = Events->item(row, kValue);
+            if (const QString shown = amountShown(toolWord(Events->item(row, kKind)->text()), value->text());
+                shown != value->text())
+                value->setText(shown);
         }
         // The last reason is the plan's refusal, for the row of the event that causes it.
         markRow(row, reading.event && row != refusedRow ? QString()
@@ -671,7 +683,8 @@ void PlanWindow::appendRow(const std::string& line) {
     QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
     // A prepayment whose amount is still to be typed has its mode third.
     if (words.size() > 2 && (kModes.contains(toolWord(words[2])) || words[2] == "every")) words.insert(2, "");
-    QString cells[5] = {words.value(1), shownWord(words.value(0)), words.value(2), "", ""};
+    QString cells[5] = {words.value(1), shownWord(words.value(0)),
+                        amountShown(toolWord(words.value(0)), words.value(2)), "", ""};
     for (int i = 3; i < words.size(); ++i) {
         if (words[i] == "every")
             cells[kEvery] = words.value(++i);

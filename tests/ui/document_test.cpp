@@ -153,9 +153,10 @@ TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {
                                  "\"" + dir.filePath("none.kestrune") +
                                      "\" could not be opened: No such file or directory"}));
     EXPECT_EQ(shell::App::instance()->mainWindows().size(), 1);
-    // A document written elsewhere, its lines short: looking at its plan changes nothing.
-    std::ofstream(dir.filePath("short.kestrune").toStdString())
-        << R"({"format": "kestrune-plan", "version": 1, "scenarios": [{"deduction": "deduction"}]})";
+    // A document written elsewhere, its lines short and its amounts plain: looking at its plan
+    // changes nothing.
+    std::ofstream(dir.filePath("short.kestrune").toStdString()) << R"({"format": "kestrune-plan", "version": 1,
+            "scenarios": [{"deduction": "deduction", "events": ["prepay 12 5000000"]}]})";
     planner::Document::open({dir.filePath("short.kestrune")}, w);
     newestWindow()->showPlan();
     EXPECT_FALSE(newestWindow()->isWindowModified());
