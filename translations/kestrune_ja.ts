@@ -491,8 +491,8 @@ fee 61 33,000</translation>
     </message>
     <message>
         <source>kChartNames</source>
-        <comment>Balance	Balance without events	Interest paid	Interest paid without events	Date	Amount</comment>
-        <translation>残高	予定なしの残高	支払利息累計	予定なしの支払利息累計	日付	金額</translation>
+        <comment>Balance	Balance without events	Interest paid	Interest paid without events	Date</comment>
+        <translation>残高	予定なしの残高	支払利息累計	予定なしの支払利息累計	日付</translation>
     </message>
     <message>
         <source>kPointer</source>

@@ -338,7 +338,9 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     setCentralWidget(central);
     // As much larger as a field is taller in this font than in the design's, within the screen.
     const double scale = std::max(1.0, Terms->BonusAmount->sizeHint().height() / 22.0);
-    controls::resizeWithinScreen(this, (QSize(920, 760) * scale).expandedTo(content->minimumSizeHint()));
+    const QSize needed =
+        content->minimumSizeHint() + QSize(0, menus->sizeHint().height() + bottom->sizeHint().height() + 12);
+    controls::resizeWithinScreen(this, (QSize(920, 760) * scale).expandedTo(needed));
 
     connect(main, &shell::MainWindow::calculated, this, &PlanWindow::recalculate);
 }
@@ -552,13 +554,13 @@ std::vector<PlanWindow::ChartLine> PlanWindow::chartLines(const engine::PlanOutc
 void PlanWindow::drawChart(const std::vector<ChartLine>& lines) {
     const QStringList names = strings::fields(strings::kChartNames, '\t');
     auto* chart = new QChart;
-    chart->setLocalizeNumbers(true); // amounts with the locale's separators
+    chart->setLocalizeNumbers(true);                                 // amounts with the locale's separators
+    chart->legend()->setMarkerShape(QLegend::MarkerShapeFromSeries); // colour and line style
     auto* dates = new QDateTimeAxis;
     dates->setFormat("yyyy");
     dates->setTitleText(names.value(4));
     auto* amounts = new QValueAxis;
-    amounts->setLabelFormat("%.0f");
-    amounts->setTitleText(names.value(5));
+    amounts->setLabelFormat("%.0f"); // its amounts need no title, which would lie on its side
     chart->addAxis(dates, Qt::AlignBottom);
     chart->addAxis(amounts, Qt::AlignLeft);
     // No more points than the chart has pixels across; the last payment always.

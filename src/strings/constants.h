@@ -185,9 +185,8 @@ inline constexpr Constant kNoFees = KESTRUNE_TEXT("PlanWindow", "kNoFees", "no f
 inline constexpr Constant kNotEarnedBack = KESTRUNE_TEXT("PlanWindow", "kNotEarnedBack", "not within the loan");
 inline constexpr Constant kYearHeader = KESTRUNE_TEXT(
     "PlanWindow", "kYearHeader", "Year\tEra year\tPayments\tAmount\tPrincipal\tInterest\tPrepaid\tFees\tBalance");
-inline constexpr Constant kChartNames =
-    KESTRUNE_TEXT("PlanWindow", "kChartNames",
-                  "Balance\tBalance without events\tInterest paid\tInterest paid without events\tDate\tAmount");
+inline constexpr Constant kChartNames = KESTRUNE_TEXT(
+    "PlanWindow", "kChartNames", "Balance\tBalance without events\tInterest paid\tInterest paid without events\tDate");
 inline constexpr Constant kPointer = KESTRUNE_TEXT("PlanWindow", "kPointer", "%4 — payment %1, %2: %3");
 inline constexpr Constant kEventsTitle =
     KESTRUNE_TEXT("PlanWindow", "kEventsTitle", "Prepayments, rate changes and fees");
