@@ -556,6 +556,8 @@ void PlanWindow::drawChart(const std::vector<ChartLine>& lines) {
     auto* chart = new QChart;
     chart->setLocalizeNumbers(true);                                 // amounts with the locale's separators
     chart->legend()->setMarkerShape(QLegend::MarkerShapeFromSeries); // colour and line style
+    // Several scenarios' names in a column of their own, where a row would cut them.
+    if (lines.size() > 4) chart->legend()->setAlignment(Qt::AlignRight);
     auto* dates = new QDateTimeAxis;
     dates->setFormat("yyyy");
     dates->setTitleText(names.value(4));
