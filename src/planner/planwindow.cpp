@@ -845,7 +845,7 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
         content.comparison.firstAmount = 1;
     }
     // The chart at the report's size, whatever size the view has (or had, where it was never shown).
-    content.chart = QImage(1800, 1000, QImage::Format_RGB32);
+    content.chart = QImage(1200, 700, QImage::Format_RGB32); // its texts as large as a page reads them
     content.chart.fill(Qt::white);
     QChart* chart = Chart->chart();
     const QSizeF shown = chart->size();

@@ -352,7 +352,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
             .value(2)
             .simplified()
             .split(' ');
-    EXPECT_EQ((image.mid(0, 5) + image.mid(12, 2)).join(' '), "1 0 image 1800 1000 225 226")
+    EXPECT_EQ((image.mid(0, 5) + image.mid(12, 2)).join(' '), "1 0 image 1200 700 150 150")
         << "the chart on page 1, its pixels and the room they take";
     // Its lines joined, as the terms may wrap.
     std::string text = " " + pdfText(dir.filePath("plan.pdf"));
