@@ -35,12 +35,12 @@ const std::vector<std::string> kLines = split("prepay 12 1000000 shorten every 1
                                               '|');
 // What replaces a word: numbers at and past every limit, the words of the options and events, and
 // bytes a terminal or UTF-8 reader could trip on.
-const std::vector<std::string> kWords = split(
-    "0|1|-1|12|144|420|100000|100001|1.5|0.0001|1e300|-1e300|1e-300|1e999|9007199254740992|9007199254740993|"
-    "9223372036854775807|-9223372036854775808|99999999999999999999|30,000,000|,5|1.|.|nan|inf|| |reduce|shorten|"
-    "every|every=|prepay|rate|fee|from|limit|#|:|::|=|--help|western|equal|next|json|-|\x1b[31m|\xff\xfe|"
-    "\xe2\x82\xac|\t|\r|\"|[]|{}|\\",
-    '|');
+const std::vector<std::string> kWords =
+    split("0|1|-1|12|144|420|100000|100001|1.5|0.0001|1e300|-1e300|1e-300|1e999|9007199254740992|9007199254740993|"
+          "9223372036854775807|-9223372036854775808|99999999999999999999|30,000,000|,5|1.|.|nan|inf|| |reduce|shorten|"
+          "every|every=|prepay|rate|fee|from|limit|#|:|::|=|--help|western|equal|next|json|-|\x1b[31m|\xff\xfe|"
+          "\xe2\x82\xac|\t|\r|\"|[]|{}|\\",
+          '|');
 
 class Inputs {
 public:

@@ -9,8 +9,8 @@
 #include "planner/report.h"
 
 #include <QColor>
-#include <QPointer>
 #include <QMainWindow>
+#include <QPointer>
 
 class QChartView;
 class QComboBox;

@@ -3,8 +3,8 @@
 // The usage text, beside the main window whose HelpBtn opened it. One is shared by all main
 // windows; closing it with its close button destroys it and releases the parent's HelpBtn.
 
-#include <QPointer>
 #include <QDialog>
+#include <QPointer>
 
 class QLabel;
 
