@@ -26,9 +26,6 @@ HelpWindow::HelpWindow(QWidget* parent)
     Label1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Label1->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     Label1->setContentsMargins(14, 10, 14, 10);
-    QSizePolicy tall = Label1->sizePolicy();
-    tall.setHeightForWidth(true); // so that the scroll area makes room for every wrapped line
-    Label1->setSizePolicy(tall);
     // The text scrolls where the window can't show it all.
     auto* scroll = new QScrollArea;
     scroll->setWidget(Label1);

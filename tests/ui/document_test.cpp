@@ -137,6 +137,7 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     QStringList names;
     for (int i = 0; i < plan->Scenarios->count(); ++i) names << plan->Scenarios->itemText(i);
     EXPECT_EQ(names, (QStringList{"Plan", "Scenario 2"}));
+    EXPECT_EQ(plan->Chart->chart()->series().size(), 6) << "two scenarios' lines and the loan's";
     EXPECT_EQ(plan->Scenarios->currentText(), "Scenario 2");
     EXPECT_EQ(plan->Events->item(0, 2)->text(), "20");
 }

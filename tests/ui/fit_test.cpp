@@ -125,6 +125,7 @@ void checkEveryTextShowsWhole(const char* language) {
     QCoreApplication::processEvents();
     expectWholeTexts(help->window());
     EXPECT_GE(help->height(), help->heightForWidth(help->width()));
+    EXPECT_LE(help->width(), help->parentWidget()->width()) << "as wide as the window shows";
     closeAllWindows();
 }
 

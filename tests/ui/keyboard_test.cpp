@@ -88,7 +88,8 @@ TEST_F(WindowTest, TheTableIsOneTabStopAndTabNeverChangesTheSelection) {
     EXPECT_EQ(w->ListBox1->SelectedRows(), std::vector<int>{4}) << "arrows move the selection";
 }
 
-// Ctrl+N answers in every window, as in the main one, and hides the About window; Ctrl+Q too.
+// Ctrl+N answers in every window, as in the main one, and hides the About window; so does Ctrl+Q
+// in the Plan window.
 TEST_F(WindowTest, NewAndQuitWorkFromEveryWindow) {
     w->HelpBtn->click();
     w->showPlan();
@@ -162,16 +163,16 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         if (!japanese) {
             EXPECT_EQ(names.join('|'), "Principal|Rate|Times|First|Interest|Selection|Pay off");
         }
-        // Every button, label, group and menu of the Plan window has a key of its own, and the file
-        // dialogs' titles show none.
-        auto* plan = w->findChild<planner::PlanWindow*>();
         // The Plan and help windows are windows to a screen reader, and a figure is read with its value.
+        auto* plan = w->findChild<planner::PlanWindow*>();
         EXPECT_EQ(QAccessible::queryAccessibleInterface(plan)->role(), QAccessible::Window);
         EXPECT_EQ(QAccessible::queryAccessibleInterface(shell::App::instance()->helpWindow())->role(),
                   QAccessible::Dialog);
         const QAccessibleInterface* paid = QAccessible::queryAccessibleInterface(plan->Figures[1]);
         EXPECT_EQ(paid->text(QAccessible::Name) + ": " + paid->text(QAccessible::Description),
                   (japanese ? "支払総額: " : "Total paid: ") + plan->Figures[1]->text());
+        // Every button, label, group and menu of the Plan window has a key of its own, and the file
+        // dialogs' titles show none.
         QStringList texts;
         for (const QAbstractButton* button : plan->findChildren<QAbstractButton*>()) texts << button->text();
         for (const QLabel* label : plan->findChildren<QLabel*>()) texts << label->text();
