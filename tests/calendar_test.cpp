@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Dates, eras, the loan's dates and the corrections of the date line.
+// Dates, eras and the corrections of the date line; the loan's dates as the schedule tool shows
+// them are in tests/tool/rules.t.
 #include "calendar/era.h"
 #include "calendar/loandates.h"
 
@@ -80,45 +81,6 @@ TEST(Era, AYearThatDoesNotFitItsEraMoves) {
         EXPECT_EQ(corrected.changed, c.changed) << "era " << c.era << " year " << c.year;
     }
     EXPECT_EQ(convertCalendar(kWestern, 1925, 6, 1), (EraYear{kWestern, 1925})) << "before Showa";
-}
-
-struct FirstPaymentCase {
-    std::int64_t month, day, payDay;
-    int delay;
-    const char* first;
-};
-
-TEST(LoanDates, FirstPaymentFollowsThePayDayAndTheDelay) {
-    const FirstPaymentCase cases[] = {
-        {1, 15, 20, kNext, "2023-01-20"},        {1, 15, 15, kNext, "2023-02-15"},
-        {1, 15, 20, kTwoAfter, "2023-02-20"},    {1, 15, 10, kThreeAfter, "2023-04-10"},
-        {1, 31, 31, kNext, "2023-02-28"},        {2, 28, 31, kNext, "2023-03-31"},
-        {12, 31, 31, kNext, "2024-01-31"},       {12, 20, 8, kThreeAfter, "2024-03-08"},
-        {12, 30, 31, kThreeAfter, "2024-02-29"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(iso(loanDates({kWestern, 2023, c.month, c.day, c.payDay, c.delay}, 12).firstPayment), c.first)
-            << "borrowed 2023-" << c.month << "-" << c.day << " pay day " << c.payDay << " delay " << c.delay;
-}
-
-struct PayoffCase {
-    DateLine line;
-    std::int64_t count;
-    const char* text;
-};
-
-TEST(LoanDates, PayoffStatement) {
-    const PayoffCase cases[] = {
-        {{kWestern, 2020, 3, 15, 8, kNext}, 144, "2032 / 3 / 8 "},
-        {{kReiwa, 2, 3, 15, 8, kNext}, 144, "Reiwa  14 / 3 / 8 "},
-        {{kHeisei, 30, 3, 15, 8, kNext}, 12, "Heisei  31 / 3 / 8 "},
-        {{kWestern, 2023, 12, 31, 31, kNext}, 2, "2024 / 2 / 29 "},
-        {{kWestern, 2022, 12, 15, 8, kNext}, 12, "2023 / 12 / 8 "}, // from January: December of the same year
-        {{kWestern, 2020, 3, 15, 8, kNext}, -2, "2020 / 1 / 8 "},   // before the first payment: the month carries
-    };
-    for (const auto& c : cases) EXPECT_EQ(payoffText(loanDates(c.line, c.count).payoff, c.line.era, {}), c.text);
-    const PayoffWords japanese{{"", "昭和", "平成", "令和"}, "年", "月", "日"};
-    EXPECT_EQ(payoffText(Date(2032, 3, 8), kReiwa, japanese), "令和  14 年 3 月 8 日");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The housing-loan tax deduction: each year's share of the year-end balance, its cap, the cut to
-// 100 yen, the limit, the years it runs, and the line that sets it.
+// 100 yen, the limit and the years it runs. The line that sets it is read in tests/tool/rules.t.
 #include "engine/deduction.h"
 
 #include <gtest/gtest.h>
@@ -33,29 +33,6 @@ TEST(Deduction, EachYearsShareOfItsBalanceCutTo100YenCappedAndLimited) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(yearlyDeductions(c.deduction, payments, 40'000'000, 2025, c.endsFrom), c.years) << c.why;
-}
-
-TEST(Deduction, LinesReadAndWrittenBack) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"deduction", "deduction 0.7 13 30000000"},
-        {"deduction 1 100", "deduction 1 100 30000000"},
-        {"deduction 1 1 9007199254740992", "deduction 1 1 9007199254740992"},
-        {"deduction 1 1 9007199254740994", ""},
-        {"deduction 0.7 13 30,000,000 from 2025 limit 250,000", "deduction 0.7 13 30000000 from 2025 limit 250000"},
-        {"deduction limit 1", "deduction 0.7 13 30000000 limit 1"},
-        {"deduction 0.7 13.5", ""},
-        {"deduction 1 101", ""},
-        {"deduction -1", ""},
-        {"deduction from", ""},
-        {"deduction 1 2 3 4", ""},
-    };
-    for (const auto& [line, written] : cases) {
-        std::optional<TaxDeduction> read;
-        const TermReading reading = readDeduction(line, read);
-        EXPECT_TRUE(reading.isTerm) << line;
-        EXPECT_EQ(read ? deductionLine(*read) : "", written) << line;
-        EXPECT_EQ(reading.error.empty(), *written != '\0') << line;
-    }
 }
 
 } // namespace

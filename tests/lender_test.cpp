@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lender terms: interest by months with the first period's days left over, exact to the yen,
-// amounts cut to the yen, and the lines that set them.
+// and amounts cut to the yen. The lines that set them are read in tests/tool/rules.t.
 #include "engine/calculation.h"
 
 #include <gtest/gtest.h>
@@ -69,25 +69,6 @@ TEST(Lender, TheWalkCountsAndRoundsByTheTerms) {
         for (const Payment& p : calculate(form, {}, {}, c.terms).payments)
             rows.push_back({p.amount, p.principal, p.interest, p.balance});
         EXPECT_EQ(rows, c.rows) << (c.flat ? "flat " : "equal ") << termLines(c.terms).front();
-    }
-}
-
-TEST(Lender, TermLinesReadAndWrittenBack) {
-    const std::tuple<const char*, bool, const char*, const char*> cases[] = {
-        {"interest monthly", true, "", "interest monthly"},
-        {"  rounding\tdown ", true, "", "rounding down"},
-        {"interest weekly", true, "interest takes daily or monthly: interest weekly", ""},
-        {"rounding down now", true, "rounding takes nearest or down: rounding down now", ""},
-        {"rounding", true, "rounding takes nearest or down: rounding", ""},
-        {"prepay 1 100", false, "", ""},
-    };
-    for (const auto& [line, isTerm, error, written] : cases) {
-        LenderTerms terms;
-        const TermReading read = readTerm(line, terms);
-        EXPECT_EQ(read.isTerm, isTerm) << line;
-        EXPECT_EQ(read.error, error) << line;
-        const auto lines = termLines(terms);
-        EXPECT_EQ(lines.empty() ? "" : lines.front(), std::string(written)) << line;
     }
 }
 

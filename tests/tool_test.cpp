@@ -20,11 +20,13 @@ struct Case {
 std::vector<Case> readTranscript(const fs::path& path) {
     std::vector<Case> cases;
     std::ifstream in(path);
+    std::string prelude; // "% " lines: shell words every later command of the file begins with
     int number = 0;
     for (std::string line; std::getline(in, line);) {
         ++number;
+        if (line.rfind("% ", 0) == 0) prelude += line.substr(2) + "\n";
         if (line.rfind("$ ", 0) == 0) {
-            cases.push_back({path.filename().string() + ":" + std::to_string(number), line.substr(2), "", ""});
+            cases.push_back({path.filename().string() + ":" + std::to_string(number), prelude + line.substr(2), "", ""});
             continue;
         }
         if (cases.empty() || line.empty() || line[0] == '#') continue;
@@ -55,9 +57,9 @@ TEST(ScheduleTool, PrintsWhatItsTranscriptsSay) {
             const std::string shell = "cd " + dir.string() + " && PATH=" + tool.string() +
                                       ":$PATH bash case.sh > out 2> err";
             const int status = std::system(shell.c_str());
-            EXPECT_EQ(WIFEXITED(status) ? WEXITSTATUS(status) : -1, c.status) << c.where << ": " << c.command;
-            EXPECT_EQ(slurp(dir / "out"), c.out) << c.where << ": " << c.command;
-            EXPECT_EQ(slurp(dir / "err"), c.err) << c.where << ": " << c.command;
+            EXPECT_EQ(WIFEXITED(status) ? WEXITSTATUS(status) : -1, c.status) << c.where;
+            EXPECT_EQ(slurp(dir / "out"), c.out) << c.where;
+            EXPECT_EQ(slurp(dir / "err"), c.err) << c.where;
             fs::remove_all(dir);
             ++count;
         }

@@ -1,7 +1,8 @@
 # kestrune-schedule as a user runs it: each case is a command, then what it prints on standard
 # output (">"), on standard error ("!") and its exit status ("?", where it is not 0). A command
 # runs in bash, in a folder of its own, with kestrune-schedule on the PATH; a line of output that
-# ends in \r ends in a carriage return.
+# ends in \r ends in a carriage return. Lines after "%" are shell words that every later command
+# of the file begins with.
 
 # The form's defaults from 15 March 2020 by flat payment; by months and cut to the yen the second
 # payment's interest is 99,349,823 x 2 % / 12 = 165,583.04 after a payment of 781,683.
