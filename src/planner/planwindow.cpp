@@ -8,6 +8,7 @@
 #include "planner/cellsmodel.h"
 #include "planner/deductionbox.h"
 #include "planner/document.h"
+#include "planner/eventsmodel.h"
 #include "planner/savefile.h"
 #include "planner/termsbox.h"
 #include "runtime/numbers.h"
@@ -47,7 +48,6 @@
 #include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTableWidget>
 #include <QToolTip>
 #include <QUndoStack>
 #include <QValueAxis>
@@ -62,45 +62,17 @@ using strings::text;
 
 QString qs(const std::string& s) { return QString::fromStdString(s); }
 
-enum EventColumn { kPayment, kKind, kValue, kMode, kEvery };
-const QStringList kKinds{"prepay", "rate", "fee"};
-const QStringList kModes{"shorten", "reduce"};
-
-// A kind or mode as the tool writes it, from the words of either language; any other word as it is.
-QString toolWord(const QString& word) {
-    for (const auto& [tool, shown] : {std::pair{kKinds, strings::fields(strings::kEventKinds, '\t')},
-                                      std::pair{kModes, strings::fields(strings::kPrepayModes, '\t')}})
-        if (const auto i = shown.indexOf(word); i >= 0) return tool.at(i);
-    return word;
-}
-
-// An amount of a prepayment or fee in whole yen with its thousands separators, as every amount
-// shows; any other value as it is.
-QString amountShown(const QString& kind, const QString& value) {
-    static const QRegularExpression whole("^[0-9]{1,15}$");
-    const QString digits = QString(value).remove(',');
-    if (kind == kKinds[1] || !whole.match(digits).hasMatch()) return value;
-    return qs(runtime::Format(runtime::Val(digits.toStdString()), table::kAmountMask));
-}
-
-// A kind or mode of the tool's in the user's language; any other word as it is.
-QString shownWord(const QString& word) {
-    if (const auto i = kKinds.indexOf(word); i >= 0) return strings::fields(strings::kEventKinds, '\t').value(i);
-    if (const auto i = kModes.indexOf(word); i >= 0) return strings::fields(strings::kPrepayModes, '\t').value(i);
-    return word;
-}
-
 // Kind and mode are chosen from lists.
 class ChoiceDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
-        if (index.column() != kKind && index.column() != kMode)
+        if (index.column() != EventsModel::kKind && index.column() != EventsModel::kMode)
             return QStyledItemDelegate::createEditor(parent, option, index);
         auto* choices = new QComboBox(parent);
-        choices->addItems(
-            strings::fields(index.column() == kKind ? strings::kEventKinds : strings::kPrepayModes, '\t'));
+        choices->addItems(strings::fields(
+            index.column() == EventsModel::kKind ? strings::kEventKinds : strings::kPrepayModes, '\t'));
         return choices;
     }
 };
@@ -133,7 +105,7 @@ private:
 };
 
 PlanWindow::PlanWindow(shell::MainWindow* main)
-    : QMainWindow(main, Qt::Window), m_main(main), m_undo(new QUndoStack(this)),
+    : QMainWindow(main, Qt::Window), m_main(main), m_undo(new QUndoStack(this)), m_events(new EventsModel(this)),
       m_schedule(new CellsModel(table::kAmount, this)), m_years(new CellsModel(3, this)) {
     // Closing hides it: its terms and events belong to its main window's loan and come back when
     // it is opened again. It goes with its main window.
@@ -143,12 +115,10 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     connect(Terms, &TermsBox::changed, this, &PlanWindow::recalculate);
     Deduction = new DeductionBox(this);
     connect(Deduction, &DeductionBox::changed, this, &PlanWindow::recalculate);
-    Events = new QTableWidget(0, 5, this);
+    Events = new QTableView(this);
     Events->setObjectName("Events");
+    Events->setModel(m_events);
     Events->setAccessibleName(text(strings::kEventsTitle));
-    Events->setHorizontalHeaderLabels(strings::fields(strings::kEventHeader, '\t'));
-    const QStringList tips = strings::fields(strings::kEventTips, '\t');
-    for (int column = 0; column < 5; ++column) Events->horizontalHeaderItem(column)->setToolTip(tips.value(column));
     // What to do, said where the events will be while there are none.
     EventsHint = new QLabel(text(strings::kEventsHint));
     EventsHint->setWordWrap(true);
@@ -158,9 +128,13 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     Events->verticalHeader()->hide();
     Events->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     Events->setTabKeyNavigation(false);
-    connect(Events, &QTableWidget::itemChanged, this, [this] {
+    // A cell edited, a row added or removed: the plan anew (not while the window itself sets them).
+    const auto edited = [this] {
         if (!m_reading) recalculate();
-    });
+    };
+    connect(m_events, &QAbstractItemModel::dataChanged, this, edited);
+    connect(m_events, &QAbstractItemModel::rowsInserted, this, edited);
+    connect(m_events, &QAbstractItemModel::rowsRemoved, this, edited);
     const auto shortcut = [this](QKeySequence keys, void (PlanWindow::*action)()) {
         auto* s = new QShortcut(keys, Events, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
         connect(s, &QShortcut::activated, this, action);
@@ -345,39 +319,21 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     connect(main, &shell::MainWindow::calculated, this, &PlanWindow::recalculate);
 }
 
-std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount, std::optional<int> refusedRow) {
+std::vector<engine::PlanEvent> PlanWindow::readEvents(std::int64_t paymentCount) {
     m_reading = true;
     const QStringList reasons = strings::fields(strings::kEventErrors, '\t');
     std::vector<engine::PlanEvent> events;
     m_eventRows.clear();
-    for (int row = 0; row < Events->rowCount(); ++row) {
-        const QString line = rowLine(row);
-        const engine::EventReading reading = engine::readEvent(line.toStdString(), paymentCount);
+    for (int row = 0; row < m_events->rowCount(); ++row) {
+        const engine::EventReading reading = engine::readEvent(m_events->line(row), paymentCount);
         if (reading.event) {
             events.push_back(*reading.event);
             m_eventRows.push_back(row);
-            QTableWidgetItem* value = Events->item(row, kValue);
-            if (const QString shown = amountShown(toolWord(Events->item(row, kKind)->text()), value->text());
-                shown != value->text())
-                value->setText(shown);
         }
-        // The last reason is the plan's refusal, for the row of the event that causes it.
-        markRow(row, reading.event && row != refusedRow ? QString()
-                     : reading.event                    ? reasons.value(reasons.size() - 1)
-                                                        : reasons.value(static_cast<int>(reading.code)));
+        m_events->setProblem(row, reading.event ? QString() : reasons.value(static_cast<int>(reading.code)));
     }
     m_reading = false;
     return events;
-}
-
-void PlanWindow::markRow(int row, const QString& why) {
-    const QBrush mark = why.isEmpty() ? QBrush() : QBrush(QColor(255, 210, 210));
-    for (int column = 0; column < Events->columnCount(); ++column) {
-        if (!Events->item(row, column)) Events->setItem(row, column, new QTableWidgetItem);
-        QTableWidgetItem* item = Events->item(row, column);
-        if (item->background() != mark) item->setBackground(mark);
-        if (item->toolTip() != why) item->setToolTip(why);
-    }
 }
 
 void PlanWindow::keyPressEvent(QKeyEvent* event) {
@@ -393,7 +349,7 @@ void PlanWindow::showEvent(QShowEvent* event) {
 }
 
 void PlanWindow::recalculate() {
-    EventsHint->setVisible(Events->rowCount() == 0);
+    EventsHint->setVisible(m_events->rowCount() == 0);
     // A closed window waits to be shown again.
     if (!m_main || !isVisible()) return;
     const engine::LoanForm form = m_main->loanForm();
@@ -421,9 +377,10 @@ void PlanWindow::recalculate() {
         Deduction->showNote(deduction.readable ? QString() : notes.value(2));
     }
     m_deduction = deduction.deduction.has_value();
+    // The last reason is the plan's refusal, for the row of the event that causes it.
     if (outcome.refusedBy) {
         m_reading = true;
-        markRow(m_eventRows[*outcome.refusedBy], strings::fields(strings::kEventErrors, '\t').last());
+        m_events->setProblem(m_eventRows[*outcome.refusedBy], strings::fields(strings::kEventErrors, '\t').last());
         m_reading = false;
     }
     // A refused plan shows no figures, rather than those of the plan before.
@@ -639,24 +596,20 @@ void PlanWindow::addEvent() {
     const QDate today = QDate::currentDate();
     const auto next = std::find_if(m_payments.begin(), m_payments.end(),
                                    [&today](const engine::Payment& p) { return dateTime(p.date).date() > today; });
-    const QString payment = QString::number(next == m_payments.end() ? 1 : next->number);
-    const int row = Events->rowCount();
     m_reading = true;
-    Events->insertRow(row);
-    const QString cells[] = {payment, shownWord(kKinds[0]), "", shownWord(kModes[0]), ""};
-    for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
+    m_events->appendPrepayment(next == m_payments.end() ? 1 : static_cast<int>(next->number));
     m_reading = false;
-    Events->setCurrentCell(row, kValue);
+    Events->setCurrentIndex(m_events->index(m_events->rowCount() - 1, EventsModel::kValue));
     recalculate();
 }
 
 void PlanWindow::removeEvents() {
-    QList<int> rows;
-    for (const QModelIndex& index : Events->selectionModel()->selectedIndexes()) rows.append(index.row());
-    if (rows.isEmpty() && Events->currentRow() >= 0) rows.append(Events->currentRow());
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    for (auto it = rows.rbegin(); it != rows.rend(); ++it) Events->removeRow(*it);
+    std::set<int> rows;
+    for (const QModelIndex& index : Events->selectionModel()->selectedIndexes()) rows.insert(index.row());
+    if (rows.empty() && Events->currentIndex().isValid()) rows.insert(Events->currentIndex().row());
+    m_reading = true;
+    for (auto it = rows.rbegin(); it != rows.rend(); ++it) m_events->removeRow(*it);
+    m_reading = false;
     recalculate();
 }
 
@@ -669,42 +622,11 @@ void PlanWindow::showScenarioNames() {
     DeleteScenarioButton->setEnabled(Scenarios->count() > 1);
 }
 
-// The line of a row of the list, as its cells hold it.
-QString PlanWindow::rowLine(int row) const {
-    QStringList words;
-    const auto cell = [this, row](int column) {
-        return Events->item(row, column) ? toolWord(Events->item(row, column)->text().trimmed()) : QString();
-    };
-    for (const int column : {kKind, kPayment, kValue, kMode, kEvery}) {
-        if (cell(column).isEmpty() || (column >= kMode && cell(kKind) != kKinds[0])) continue;
-        words << (column == kEvery ? "every " + cell(column) : cell(column));
-    }
-    return words.join(' ');
-}
-
-// A row of the list from an event's line, its words in their cells.
-void PlanWindow::appendRow(const std::string& line) {
-    QStringList words = qs(line).simplified().split(' ', Qt::SkipEmptyParts);
-    // A prepayment whose amount is still to be typed has its mode third.
-    if (words.size() > 2 && (kModes.contains(toolWord(words[2])) || words[2] == "every")) words.insert(2, "");
-    QString cells[5] = {words.value(1), shownWord(words.value(0)),
-                        amountShown(toolWord(words.value(0)), words.value(2)), "", ""};
-    for (int i = 3; i < words.size(); ++i) {
-        if (words[i] == "every")
-            cells[kEvery] = words.value(++i);
-        else
-            cells[kMode] = shownWord(words[i]);
-    }
-    const int row = Events->rowCount();
-    Events->insertRow(row);
-    for (int column = 0; column < 5; ++column) Events->setItem(row, column, new QTableWidgetItem(cells[column]));
-}
-
 engine::Scenario PlanWindow::scenario() const {
     engine::Scenario scenario;
     if (const auto terms = Terms->terms()) scenario.terms = engine::termLines(*terms);
     if (const auto deduction = Deduction->deduction().deduction) scenario.deduction = engine::deductionLine(*deduction);
-    for (int row = 0; row < Events->rowCount(); ++row) scenario.events.push_back(rowLine(row).toStdString());
+    for (int row = 0; row < m_events->rowCount(); ++row) scenario.events.push_back(m_events->line(row));
     return scenario;
 }
 
@@ -729,8 +651,8 @@ void PlanWindow::showScenario(const engine::Scenario& scenario) {
     Terms->setTerms(terms);
     Deduction->setDeduction(deduction);
     m_reading = true;
-    Events->setRowCount(0);
-    for (const std::string& line : scenario.events) appendRow(line);
+    m_events->removeRows(0, m_events->rowCount());
+    m_events->appendLines(scenario.events);
     m_reading = false;
     recalculate();
     m_last = this->scenario(); // also while hidden, when nothing was calculated
@@ -742,11 +664,9 @@ void PlanWindow::copyEvents() const {
     QStringList lines;
     for (const std::string& line : all.terms) lines << qs(line);
     if (all.deduction) lines << qs(*all.deduction);
-    QList<int> rows;
-    for (const QModelIndex& index : Events->selectionModel()->selectedIndexes())
-        if (!rows.contains(index.row())) rows.append(index.row());
-    std::sort(rows.begin(), rows.end());
-    for (const int row : rows) lines << rowLine(row);
+    std::set<int> rows;
+    for (const QModelIndex& index : Events->selectionModel()->selectedIndexes()) rows.insert(index.row());
+    for (const int row : rows) lines << qs(m_events->line(row));
     QGuiApplication::clipboard()->setText(lines.join('\n') + (lines.isEmpty() ? "" : "\n"));
 }
 
@@ -780,7 +700,7 @@ void PlanWindow::pasteEvents() {
     Terms->setTerms(terms);
     Deduction->setDeduction(deduction);
     m_reading = true;
-    for (const std::string& line : eventLines) appendRow(line);
+    m_events->appendLines(eventLines);
     m_reading = false;
     recalculate();
     m_showing = false;
@@ -809,14 +729,13 @@ Painted PlanWindow::paintReport(QPagedPaintDevice& device) {
     content.title = windowTitle();
     content.events.headings = strings::fields(strings::kEventHeader, '\t');
     std::vector<table::Cells> events;
-    for (int row = 0; row < Events->rowCount(); ++row) {
+    for (int row = 0; row < m_events->rowCount(); ++row) {
         table::Cells& cells = events.emplace_back();
-        for (int column = 0; column < Events->columnCount(); ++column)
-            cells.push_back(Events->item(row, column) ? Events->item(row, column)->text().toStdString() : "");
+        for (const QString& cell : m_events->shownRow(row)) cells.push_back(cell.toStdString());
     }
     content.events.rowCount = events.size();
     content.events.row = [events](std::size_t row) { return events[row]; };
-    content.events.firstAmount = kValue;
+    content.events.firstAmount = EventsModel::kValue;
     const QStringList names = strings::fields(strings::kTotalNames, '\t');
     // The loan's dates under its title, as the figures write dates.
     const engine::LoanTerms loan = engine::readLoanForm(m_main->loanForm());

@@ -19,7 +19,6 @@ class QLabel;
 class QPushButton;
 class QTableView;
 class QPagedPaintDevice;
-class QTableWidget;
 class QTabWidget;
 class QUndoStack;
 
@@ -31,6 +30,7 @@ namespace planner {
 
 class CellsModel;
 class DeductionBox;
+class EventsModel;
 class TermsBox;
 
 class PlanWindow : public QMainWindow {
@@ -63,7 +63,8 @@ public:
 
     TermsBox* Terms;
     DeductionBox* Deduction;
-    QTableWidget* Events;
+    QTableView* Events;
+    EventsModel* eventRows() const { return m_events; }
     QLabel* EventsHint; // shown while the list is empty
     QTableView* Schedule;
     QTableView* Years;
@@ -89,12 +90,9 @@ protected:
 
 private:
     // The events the list holds, with the row of each; a row the plan can't use is marked with
-    // the reason, and so is the row whose event makes the plan refused.
-    std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount, std::optional<int> refusedRow = {});
-    void markRow(int row, const QString& why);
-    QString rowLine(int row) const;
+    // the reason.
+    std::vector<engine::PlanEvent> readEvents(std::int64_t paymentCount);
     void showScenarioNames();
-    void appendRow(const std::string& line);
     // Sets the terms, deduction and events without taking it for a change of the user's.
     void showScenario(const engine::Scenario& scenario);
     // What changed since the last change kept, as one step to undo.
@@ -120,6 +118,7 @@ private:
 
     QPointer<shell::MainWindow> m_main;
     QUndoStack* m_undo;
+    EventsModel* m_events;
     engine::Scenario m_last; // as the last calculation read it: where the next change undoes to
     bool m_showing = false;  // changes kept as one step, or none
     CellsModel* m_schedule;

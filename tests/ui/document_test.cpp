@@ -4,6 +4,7 @@
 #include "uitest.h"
 
 #include "planner/document.h"
+#include "planner/eventsmodel.h"
 #include "planner/planwindow.h"
 
 #include <QChartView>
@@ -15,7 +16,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -81,13 +81,13 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     paste("fee 1 10\n");
     QTest::mouseClick(plan->NewScenarioButton, Qt::LeftButton);
     EXPECT_EQ(plan->Scenarios->currentText(), "Scenario 2");
-    EXPECT_EQ(plan->Events->rowCount(), 0);
+    EXPECT_EQ(plan->eventRows()->rowCount(), 0);
     paste("fee 2 20\n");
     QTest::mouseClick(plan->DuplicateButton, Qt::LeftButton);
     answer("Later");
     QTest::mouseClick(plan->RenameButton, Qt::LeftButton);
     QTest::keyClick(plan->Scenarios, Qt::Key_Home);
-    EXPECT_EQ(plan->Events->item(0, 2)->text(), "10") << "the first scenario's events back";
+    EXPECT_EQ(eventCell(plan, 0, 2), "10") << "the first scenario's events back";
     EXPECT_TRUE((w->document()->scenarios() == std::vector<engine::Scenario>{{"Plan", {}, {}, {"fee 1 10"}},
                                                                              {"Scenario 2", {}, {}, {"fee 2 20"}},
                                                                              {"Later", {}, {}, {"fee 2 20"}}}));
@@ -139,7 +139,7 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     EXPECT_EQ(names, (QStringList{"Plan", "Scenario 2"}));
     EXPECT_EQ(plan->Chart->chart()->series().size(), 6) << "two scenarios' lines and the loan's";
     EXPECT_EQ(plan->Scenarios->currentText(), "Scenario 2");
-    EXPECT_EQ(plan->Events->item(0, 2)->text(), "20");
+    EXPECT_EQ(eventCell(plan, 0, 2), "20");
 }
 
 TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {

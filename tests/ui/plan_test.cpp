@@ -4,6 +4,7 @@
 #include "uitest.h"
 
 #include "planner/deductionbox.h"
+#include "planner/eventsmodel.h"
 #include "planner/planwindow.h"
 #include "planner/termsbox.h"
 #include "strings/lookup.h"
@@ -25,7 +26,6 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTableView>
-#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolTip>
@@ -123,7 +123,7 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
 
 TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
     EXPECT_TRUE(plan->EventsHint->isVisible()) << "what to do, while the list is empty";
-    EXPECT_EQ(plan->Events->horizontalHeaderItem(4)->toolTip(),
+    EXPECT_EQ(plan->eventRows()->headerData(4, Qt::Horizontal, Qt::ToolTipRole),
               "For a prepayment: again every so many payments; empty for once");
     paste("rounding down\nfee 1 10\n");
     EXPECT_FALSE(plan->EventsHint->isVisible());
@@ -134,10 +134,10 @@ TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
     ASSERT_TRUE(plan->isVisible());
     showActive(plan);
     EXPECT_TRUE(plan->Terms->RoundDown->isChecked());
-    EXPECT_EQ(plan->Events->rowCount(), 1);
+    EXPECT_EQ(plan->eventRows()->rowCount(), 1);
     EXPECT_EQ(figure(4), "10") << "the fees";
     // Escape ends an edit first; then it closes the window.
-    plan->Events->setCurrentCell(0, 2);
+    plan->Events->setCurrentIndex(plan->eventRows()->index(0, 2));
     QTest::keyClick(plan->Events, Qt::Key_F2);
     ASSERT_NE(plan->Events->indexWidget(plan->Events->currentIndex()), nullptr) << "an editor open";
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
@@ -149,14 +149,14 @@ TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
 TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     QTest::keyClick(plan->Events, Qt::Key_Insert);
-    ASSERT_EQ(plan->Events->rowCount(), 2);
-    EXPECT_EQ(std::pair(plan->Events->currentRow(), plan->Events->currentColumn()), std::pair(1, 2)) << "its amount";
-    EXPECT_EQ(plan->Events->item(1, 0)->text().toStdString(), nextPayment());
-    EXPECT_EQ(plan->Events->item(1, 2)->background().color(), QColor(255, 210, 210)) << "marked until typed";
-    plan->Events->removeRow(1);
+    ASSERT_EQ(plan->eventRows()->rowCount(), 2);
+    EXPECT_EQ(std::pair(plan->Events->currentIndex().row(), plan->Events->currentIndex().column()), std::pair(1, 2)) << "its amount";
+    EXPECT_EQ(eventCell(plan, 1, 0).toStdString(), nextPayment());
+    EXPECT_EQ(eventCell(plan, 1, 2, Qt::BackgroundRole), "#ffd2d2") << "marked until typed";
+    plan->eventRows()->removeRow(1);
     // Typed into the cells: F2 edits, Return ends the edit.
     for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1,000,000"}, {4, "60"}}) {
-        plan->Events->setCurrentCell(0, column);
+        plan->Events->setCurrentIndex(plan->eventRows()->index(0, column));
         QTest::keyClick(plan->Events, Qt::Key_F2);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), typed);
@@ -164,16 +164,16 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
         QCoreApplication::processEvents(); // the edit is committed once the editor has closed
     }
     EXPECT_EQ(figure(0), "350") << "a shorter term";
-    plan->Events->setCurrentCell(0, 0);
+    plan->Events->setCurrentIndex(plan->eventRows()->index(0, 0));
     QTest::keyClick(plan->Events, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), plan->AddButton)
         << "Tab leaves the list rather than moving through its cells";
     paste("rate 61 0.9\nfee\t61\t330000\nprepay 500 5\n# a comment\n");
-    ASSERT_EQ(plan->Events->rowCount(), 4);
-    EXPECT_EQ(plan->Events->item(3, 0)->toolTip(), "The payment is outside the loan");
-    EXPECT_EQ(plan->Events->item(1, 0)->toolTip(), "");
-    EXPECT_EQ(plan->Events->item(3, 0)->background().color(), QColor(255, 210, 210));
-    plan->Events->removeRow(3);
+    ASSERT_EQ(plan->eventRows()->rowCount(), 4);
+    EXPECT_EQ(eventCell(plan, 3, 0, Qt::ToolTipRole), "The payment is outside the loan");
+    EXPECT_EQ(eventCell(plan, 1, 0, Qt::ToolTipRole), "");
+    EXPECT_EQ(eventCell(plan, 3, 0, Qt::BackgroundRole), "#ffd2d2");
+    plan->eventRows()->removeRow(3);
     // The schedule copied is the tool's for the same events, cell for cell.
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
@@ -218,8 +218,8 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
 TEST_F(PlanTest, ChangesAreUndoneAndRedone) {
     paste("rounding down\nfee 1 10\n");
     QTest::keyClick(plan->Events, Qt::Key_Insert);
-    plan->Events->item(1, 2)->setText("5");
-    plan->Events->setCurrentCell(0, 0);
+    plan->eventRows()->setData(plan->eventRows()->index(1, 2), "5");
+    plan->Events->setCurrentIndex(plan->eventRows()->index(0, 0));
     QTest::keyClick(plan->Events, Qt::Key_Delete);
     const auto lines = [this] { return scenarioLines(plan->scenario()); };
     const std::string added = "prepay " + nextPayment();
@@ -247,7 +247,7 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     QStringList shown;
     for (int row = 0; row < 3; ++row)
-        shown << plan->Events->item(row, 1)->text() + " " + plan->Events->item(row, 3)->text();
+        shown << eventCell(plan, row, 1) + " " + eventCell(plan, row, 3);
     EXPECT_EQ(shown.join('|'), "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
@@ -259,7 +259,7 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     paste("fee 1 10\nprepay 2 1\nprepay 3 1,000 reduce every 12\nfee 4 40\n");
     const auto click = [this](int row, Qt::KeyboardModifiers keys) {
-        const QRect cell = plan->Events->visualItemRect(plan->Events->item(row, 0));
+        const QRect cell = plan->Events->visualRect(plan->eventRows()->index(row, 0));
         QTest::mouseClick(plan->Events->viewport(), Qt::LeftButton, keys, cell.center());
     };
     click(1, {});
@@ -267,18 +267,18 @@ TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "prepay 2 1\nprepay 3 1,000 reduce every 12\n");
     QTest::keyClick(plan->Events, Qt::Key_Delete);
-    ASSERT_EQ(plan->Events->rowCount(), 2);
-    EXPECT_EQ(plan->Events->item(1, 2)->text(), "40");
+    ASSERT_EQ(plan->eventRows()->rowCount(), 2);
+    EXPECT_EQ(eventCell(plan, 1, 2), "40");
     EXPECT_EQ(figure(4), "50") << "the fees of the rows left";
     // With nothing selected, Remove takes the row of the current cell, and Copy copies nothing.
     click(1, {});
     click(1, Qt::ControlModifier);
-    ASSERT_TRUE(plan->Events->selectedItems().isEmpty());
+    ASSERT_TRUE(plan->Events->selectionModel()->selectedIndexes().isEmpty());
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "");
     QTest::mouseClick(plan->RemoveButton, Qt::LeftButton);
-    ASSERT_EQ(plan->Events->rowCount(), 1);
-    EXPECT_EQ(plan->Events->item(0, 2)->text(), "10");
+    ASSERT_EQ(plan->eventRows()->rowCount(), 1);
+    EXPECT_EQ(eventCell(plan, 0, 2), "10");
 }
 
 TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
@@ -300,7 +300,7 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     contextMenu(plan->Years, 0, "&Copy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               QString::fromStdString(row(0, plan->Years)).replace(' ', '\t') + "\n");
-    plan->Events->item(0, 2)->setText("1,000,000");
+    plan->eventRows()->setData(plan->eventRows()->index(0, 2), "1,000,000");
     EXPECT_EQ(figure(0), "402") << "a cell edited after a paste";
     showActive(plan);
     plan->Events->setFocus();
@@ -381,7 +381,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     EXPECT_EQ(terms->Interest->currentText(), "by months, as lenders count it");
     EXPECT_TRUE(terms->RoundDown->isChecked() && terms->Bonus->isChecked() && terms->Review->isChecked());
     EXPECT_EQ(terms->BonusAmount->text(), "3,000,000");
-    EXPECT_EQ(plan->Events->rowCount(), 1);
+    EXPECT_EQ(plan->eventRows()->rowCount(), 1);
     QTest::keyClick(plan, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().toStdString() ==
                 tool("--interest monthly --rounding down --bonus 3000000:7,1 --review --fee 1:0"));
@@ -489,21 +489,21 @@ TEST_F(PlanTest, ALongReportShowsItsProgressAndCancelLeavesNoFile) {
 TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
     paste("prepay 12 500000\nrate 2 1e300\n");
     const QString why = "With this event the plan's amounts go beyond 9,007,199,254,740,992";
-    EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), why);
-    EXPECT_EQ(plan->Events->item(1, 0)->background().color(), QColor(255, 210, 210));
-    EXPECT_EQ(plan->Events->item(0, 0)->toolTip(), "");
-    EXPECT_EQ(plan->Events->item(0, 0)->background(), QBrush());
+    EXPECT_EQ(eventCell(plan, 1, 2, Qt::ToolTipRole), why);
+    EXPECT_EQ(eventCell(plan, 1, 0, Qt::BackgroundRole), "#ffd2d2");
+    EXPECT_EQ(eventCell(plan, 0, 0, Qt::ToolTipRole), "");
+    EXPECT_EQ(eventCell(plan, 0, 0, Qt::BackgroundRole), "");
     EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
     EXPECT_EQ(figure(0), "");
     for (QAbstractSeries* series : plan->Chart->chart()->series())
         EXPECT_EQ(static_cast<QLineSeries*>(series)->count(), 0) << "no chart of another plan";
-    plan->Events->item(1, 2)->setText("2");
-    EXPECT_EQ(plan->Events->item(1, 2)->toolTip(), "");
+    plan->eventRows()->setData(plan->eventRows()->index(1, 2), "2");
+    EXPECT_EQ(eventCell(plan, 1, 2, Qt::ToolTipRole), "");
     EXPECT_EQ(figure(0), "411");
     EXPECT_EQ(figure(9), "no fees") << "the break-even payment";
     // Refused by its total paid, though every row holds: still no rows.
     paste("fee 1 5,000,000,000,000,000\nfee 2 5,000,000,000,000,000\n");
-    EXPECT_EQ(plan->Events->item(3, 0)->toolTip(), why);
+    EXPECT_EQ(eventCell(plan, 3, 0, Qt::ToolTipRole), why);
     EXPECT_EQ(plan->Schedule->model()->rowCount(), 0);
 }
 
@@ -515,7 +515,7 @@ TEST_F(PlanTest, AnOversizedPasteIsRefusedWithItsReason) {
     for (const auto& [text, why] : cases) {
         paste(text.toUtf8().constData());
         EXPECT_EQ(message(plan), "The pasted text was not added: " + why);
-        EXPECT_EQ(plan->Events->rowCount(), 0);
+        EXPECT_EQ(plan->eventRows()->rowCount(), 0);
     }
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include "planner/planwindow.h"
+
 #include "shell/helpwindow.h"
 
 #include <QAbstractItemView>
@@ -63,6 +65,10 @@ void answer(const QString& text, QMessageBox::StandardButton button) {
             menu->close();
         }
     });
+}
+
+QString eventCell(const planner::PlanWindow* plan, int row, int column, int role) {
+    return plan->Events->model()->index(row, column).data(role).toString();
 }
 
 engine::LoanForm loan2020() {

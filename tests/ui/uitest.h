@@ -31,6 +31,10 @@ inline void PrintTo(const LoanForm& f, std::ostream* os) {
 }
 } // namespace engine
 
+namespace planner {
+class PlanWindow;
+}
+
 namespace uitest {
 
 using shell::MainWindow;
@@ -61,6 +65,9 @@ QAction* menuItem(QMainWindow* window, const char* name);
 void answer(const QString& text, QMessageBox::StandardButton button = QMessageBox::NoButton);
 // Clicks the row of the view and chooses the item of its context menu.
 void contextMenu(QAbstractItemView* view, int row, const QString& item);
+
+// A cell of a Plan window's event list: its text, or its tooltip or colour ("" where none).
+QString eventCell(const planner::PlanWindow* plan, int row, int column, int role = Qt::DisplayRole);
 
 // The default loan, borrowed on 2020-03-15 in the Western calendar: first payment 2020-04-08.
 engine::LoanForm loan2020();
