@@ -471,8 +471,13 @@ fee 61 33,000</translation>
     </message>
     <message>
         <source>kSaveCsv</source>
-        <comment>&amp;Save Schedule as CSV...</comment>
-        <translation>返済表を CSV で保存(&amp;S)...</translation>
+        <comment>&amp;Save as CSV...</comment>
+        <translation>CSV で保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>kSaveCsvTip</source>
+        <comment>Saves the table shown: the schedule, the years with their totals, or the comparison</comment>
+        <translation>表示中の表 (返済表、年ごとの集計、比較) を CSV で保存します</translation>
     </message>
     <message>
         <source>kExportPdf</source>

@@ -154,10 +154,13 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     RemoveButton = button(strings::kRemoveEvent, &PlanWindow::removeEvents);
     CopyButton = button(strings::kCopySchedule, &PlanWindow::copySchedule);
     CsvButton = button(strings::kSaveCsv, [this] {
-        const QString path = QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kSaveCsv),
-                                                          "schedule.csv", "CSV (*.csv)");
+        const char* name = shownTable() == m_years ? "years.csv" : shownTable() == m_comparison ? "comparison.csv"
+                                                                                                 : "schedule.csv";
+        const QString path =
+            QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kSaveCsv), name, "CSV (*.csv)");
         if (!path.isEmpty()) saveCsv(path);
     });
+    CsvButton->setToolTip(text(strings::kSaveCsvTip));
     PrintButton = button(strings::kPrint, &PlanWindow::print);
     PdfButton = button(strings::kExportPdf, [this] {
         const QString path = QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kExportPdf),
@@ -707,6 +710,10 @@ void PlanWindow::pasteEvents() {
     keepChange();
 }
 
+CellsModel* PlanWindow::shownTable() const {
+    return m_tabs->currentWidget() == Years ? m_years : m_tabs->currentWidget() == Comparison ? m_comparison : m_schedule;
+}
+
 void PlanWindow::copySchedule() const { copyRows(m_schedule->all()); }
 
 void PlanWindow::copyRows(const std::vector<table::Cells>& rows) {
@@ -718,7 +725,7 @@ void PlanWindow::copyRows(const std::vector<table::Cells>& rows) {
 }
 
 bool PlanWindow::saveCsv(const QString& path) {
-    const QByteArray csv = QByteArray::fromStdString(table::toCsv(m_schedule->all()));
+    const QByteArray csv = QByteArray::fromStdString(table::toCsv(shownTable()->all()));
     const QString error = saveWhole(path, csv);
     if (!error.isEmpty()) showSaveError(this, path, error);
     return error.isEmpty();

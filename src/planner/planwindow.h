@@ -57,7 +57,8 @@ public:
     // Rows as text, CSV and HTML, for a spreadsheet or a document.
     static void copyRows(const std::vector<table::Cells>& rows);
     static void copySelectedRows(const QTableView* view);
-    // Saved whole or not at all; a failure is told in a message that names the file.
+    // The table of the tab shown (the schedule under the chart) as CSV, saved whole or not at all;
+    // a failure is told in a message that names the file.
     bool saveCsv(const QString& path);
     bool exportPdf(const QString& path);
 
@@ -112,6 +113,7 @@ private:
     // The plan beside the loan without events; with several scenarios, each in a colour of its own.
     std::vector<ChartLine> chartLines(const engine::PlanOutcome& outcome) const;
     void drawChart(const std::vector<ChartLine>& lines);
+    CellsModel* shownTable() const;
     void print();
     // Paints the report with a progress dialog that can cancel it.
     Painted paintReport(QPagedPaintDevice& device);

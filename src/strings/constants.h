@@ -160,7 +160,9 @@ inline constexpr Constant kEventErrors = KESTRUNE_TEXT(
 inline constexpr Constant kAddEvent = KESTRUNE_TEXT("PlanWindow", "kAddEvent", "&Add");
 inline constexpr Constant kRemoveEvent = KESTRUNE_TEXT("PlanWindow", "kRemoveEvent", "&Remove");
 inline constexpr Constant kCopySchedule = KESTRUNE_TEXT("PlanWindow", "kCopySchedule", "&Copy Schedule");
-inline constexpr Constant kSaveCsv = KESTRUNE_TEXT("PlanWindow", "kSaveCsv", "&Save Schedule as CSV...");
+inline constexpr Constant kSaveCsv = KESTRUNE_TEXT("PlanWindow", "kSaveCsv", "&Save as CSV...");
+inline constexpr Constant kSaveCsvTip = KESTRUNE_TEXT(
+    "PlanWindow", "kSaveCsvTip", "Saves the table shown: the schedule, the years with their totals, or the comparison");
 inline constexpr Constant kPrint = KESTRUNE_TEXT("PlanWindow", "kPrint", "&Print...");
 inline constexpr Constant kExportPdf = KESTRUNE_TEXT("PlanWindow", "kExportPdf", "E&xport as PDF...");
 inline constexpr Constant kTabs = KESTRUNE_TEXT("PlanWindow", "kTabs", "Schedule\tYears\tChart\tCompare");
@@ -323,6 +325,7 @@ inline constexpr std::array kAllConstants{kAppName,
                                           kRemoveEvent,
                                           kCopySchedule,
                                           kSaveCsv,
+                                          kSaveCsvTip,
                                           kPrint,
                                           kExportPdf,
                                           kTabs,

@@ -25,6 +25,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -340,9 +341,18 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     // Saved and exported through their buttons and the file dialogs.
     answer(dir.filePath("plan.csv"));
     QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
-    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) ==
-                tool("--interest monthly --rounding down --bonus 3000000 --review --prepay 12:500000:reduce:every=12 "
-                     "--fee 13:1000 --prepay 30:25,000,000 --format csv"));
+    const std::string options = "--interest monthly --rounding down --bonus 3000000 --review --prepay 12:500000:reduce:"
+                             "every=12 --fee 13:1000 --prepay 30:25,000,000 --format csv ";
+    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) == tool(options));
+    // The table shown is saved: the years, then their totals.
+    plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Years);
+    answer(dir.filePath("years.csv"));
+    QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
+    const std::string years = tool(options + "--by-year --deduction 0.7:13:30000000:2020");
+    EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(0, years.size()), years);
+    EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(years.size()),
+              "Total,,72,\"3,345,046\",\"2,232,358\",\"" + figure(2).toStdString() +
+                  "\",\"27,767,642\",\"1,000\",\"" + figure(11).toStdString() + "\",\r\n");
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
     EXPECT_EQ(message(plan), "");
