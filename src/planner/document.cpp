@@ -21,7 +21,29 @@ QString filter() { return strings::text(strings::kPlanFilter) + " (*.kestrune)";
 
 } // namespace
 
-Document::Document(shell::MainWindow* window) : QObject(window), m_window(window) {}
+class ScenarioNames : public QAbstractListModel {
+public:
+    explicit ScenarioNames(Document* document) : QAbstractListModel(document), m_document(document) {
+        connect(document, &Document::scenariosChanged, this, [this] {
+            beginResetModel();
+            endResetModel();
+        });
+    }
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(m_document->m_scenarios.size());
+    }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) return {};
+        return QString::fromStdString(m_document->m_scenarios.at(static_cast<std::size_t>(index.row())).name);
+    }
+
+private:
+    const Document* m_document;
+};
+
+// The names' model first, so that it is anew before anyone else hears of a change.
+Document::Document(shell::MainWindow* window)
+    : QObject(window), m_window(window), m_names(new ScenarioNames(this)) {}
 
 engine::PlanDocument Document::current() const { return {m_window->loanForm(), scenarios()}; }
 

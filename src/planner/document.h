@@ -6,6 +6,7 @@
 
 #include "engine/document.h"
 
+#include <QAbstractListModel>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -36,6 +37,8 @@ public:
     void addScenario(engine::Scenario scenario);
     void renameShown(const std::string& name);
     void removeShown();
+    // The scenarios' names, a row each, for the list that chooses the one shown.
+    QAbstractItemModel* names() const { return m_names; }
     // The Plan window, once made, shows the scenario chosen and tells of its changes.
     void attach(PlanWindow* plan);
     // Sets the modified mark where the window no longer holds what was saved.
@@ -69,6 +72,9 @@ private:
     std::string m_saved;                                             // the text of the file as last saved or opened
     std::vector<engine::Scenario> m_scenarios{{"Plan", {}, {}, {}}}; // the shown one as last kept
     std::size_t m_shown = 0;
+    QAbstractListModel* m_names;
+
+    friend class ScenarioNames;
 };
 
 } // namespace planner

@@ -235,6 +235,7 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     Scenarios->setObjectName("Scenarios");
     Scenarios->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     planner::Document* document = main->document();
+    Scenarios->setModel(document->names());
     connect(Scenarios, &QComboBox::activated, document,
             [document](int index) { document->show(static_cast<std::size_t>(index)); });
     connect(document, &Document::scenariosChanged, this, &PlanWindow::showScenarioNames);
@@ -619,8 +620,6 @@ void PlanWindow::removeEvents() {
 void PlanWindow::showScenarioNames() {
     const planner::Document* document = m_main->document();
     const QSignalBlocker blocker(Scenarios);
-    Scenarios->clear();
-    for (const engine::Scenario& s : document->scenarios()) Scenarios->addItem(qs(s.name));
     Scenarios->setCurrentIndex(static_cast<int>(document->shown()));
     DeleteScenarioButton->setEnabled(Scenarios->count() > 1);
 }
