@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Lender terms: interest by months with the first period's days left over, exact to the yen,
-// and amounts cut to the yen. The lines that set them are read in tests/tool/rules.t.
+// and amounts cut to the yen. A loan walked by the terms, and the lines that set them, are in
+// tests/tool/rules.t.
 #include "engine/calculation.h"
 
 #include <gtest/gtest.h>
@@ -35,40 +36,6 @@ TEST(Lender, MonthlyInterestIsExactAndRoundedOnce) {
     for (const auto& [balance, rate, span, nearest, down] : cases) {
         EXPECT_EQ(monthlyInterest(balance, rate, span, Rounding::Nearest), nearest) << balance << " at " << rate;
         EXPECT_EQ(monthlyInterest(balance, rate, span, Rounding::Down), down) << balance << " at " << rate;
-    }
-}
-
-// 1,000,000 at 1.6 % in 3 payments from 2020-03-15, pay day 8, "2After": first payment 2020-05-08,
-// one month and 23 days after. By hand, monthly: 1,000,000 x 1.6 % x (1/12 + 23/365) = 2,341.55;
-// then 668,119 x 1.6 % / 12 = 890.83 (668,143 by days: 54 days at 1.6 % / 365.2422 = 2,365.55).
-// The flat payment 334,222.62; equal principal 333,333.33, then 666,667 x 1.6 % / 12 = 888.89.
-TEST(Lender, TheWalkCountsAndRoundsByTheTerms) {
-    struct Case {
-        bool flat;
-        LenderTerms terms;
-        std::vector<std::array<double, 4>> rows; // amount, principal, interest, balance
-    };
-    const Case cases[] = {
-        {true,
-         {InterestRule::Daily, Rounding::Down, {}},
-         {{334'222, 331'857, 2'365, 668'143}, {334'222, 333'315, 907, 334'828}, {335'268, 334'828, 440, 0}}},
-        {true,
-         {InterestRule::Monthly, Rounding::Nearest, {}},
-         {{334'223, 331'881, 2'342, 668'119}, {334'223, 333'332, 891, 334'787}, {335'233, 334'787, 446, 0}}},
-        {true,
-         {InterestRule::Monthly, Rounding::Down, {}},
-         {{334'222, 331'881, 2'341, 668'119}, {334'222, 333'332, 890, 334'787}, {335'233, 334'787, 446, 0}}},
-        {false,
-         {InterestRule::Monthly, Rounding::Down, {}},
-         {{335'674, 333'333, 2'341, 666'667}, {334'221, 333'333, 888, 333'334}, {333'778, 333'334, 444, 0}}},
-    };
-    for (const Case& c : cases) {
-        LoanForm form{"1,000,000",         "1.6", "3", "1", calendar::kWestern, {"2020", "3", "15", "8"},
-                      calendar::kTwoAfter, c.flat};
-        std::vector<std::array<double, 4>> rows;
-        for (const Payment& p : calculate(form, {}, {}, c.terms).payments)
-            rows.push_back({p.amount, p.principal, p.interest, p.balance});
-        EXPECT_EQ(rows, c.rows) << (c.flat ? "flat " : "equal ") << termLines(c.terms).front();
     }
 }
 

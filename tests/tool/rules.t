@@ -299,3 +299,25 @@ $ interest() { tiny "$@" --first 2 --last 2 | tail -1 | cut -f5 | tr -d ,; }; fe
 > fee 739
 > Break-even payment	2 (2020 / 5 / 8 )
 > Break-even payment	3 (2020 / 6 / 8 )
+
+# 1,000,000 at 1.6 % in 3 payments from 2020-03-15, pay day 8, "2after": first payment 2020-05-08,
+# one month and 23 days after. By hand, monthly: 1,000,000 x 1.6 % x (1/12 + 23/365) = 2,341.55;
+# then 668,119 x 1.6 % / 12 = 890.83 (668,143 by days: 54 days at 1.6 % / 365.2422 = 2,365.55).
+# The flat payment 334,222.62; equal principal 333,333.33, then 666,667 x 1.6 % / 12 = 888.89.
+% short() { kestrune-schedule --principal 1,000,000 --rate 1.6 --times 3 --era western --year 2020 --month 3 --day 15 --delay 2after --format tsv "$@" | tail -n +2 | cut -f3-; }
+$ short --method flat --rounding down
+> 334,222	331,857	2,365	668,143
+> 334,222	333,315	907	334,828
+> 335,268	334,828	440	0
+$ short --method flat --interest monthly
+> 334,223	331,881	2,342	668,119
+> 334,223	333,332	891	334,787
+> 335,233	334,787	446	0
+$ short --method flat --interest monthly --rounding down
+> 334,222	331,881	2,341	668,119
+> 334,222	333,332	890	334,787
+> 335,233	334,787	446	0
+$ short --method equal --interest monthly --rounding down
+> 335,674	333,333	2,341	666,667
+> 334,221	333,333	888	333,334
+> 333,778	333,334	444	0
