@@ -42,12 +42,13 @@ private:
     bool m_failed = false;
 };
 
-// Column widths from the headings and the widest texts of the first and last hundred rows, which
-// hold the widest: amounts fall or keep their digits, dates keep their width.
-std::vector<int> columnWidths(const ReportTable& table, const QFontMetrics& metrics, int pageWidth) {
+// Column widths from the headings (in bold, as they are painted) and the widest texts of the first
+// and last hundred rows, which hold the widest: amounts fall or keep their digits, dates keep their width.
+std::vector<int> columnWidths(const ReportTable& table, const QFontMetrics& metrics, const QFontMetrics& bold,
+                              int pageWidth) {
     const int gap = metrics.horizontalAdvance(QStringLiteral("00"));
     std::vector<int> widths;
-    for (const QString& heading : table.headings) widths.push_back(metrics.horizontalAdvance(heading) + gap);
+    for (const QString& heading : table.headings) widths.push_back(bold.horizontalAdvance(heading) + gap);
     for (std::size_t r = 0; r < table.rowCount; r = r == 99 && table.rowCount > 200 ? table.rowCount - 100 : r + 1) {
         const table::Cells cells = table.row(r);
         for (std::size_t c = 0; c < std::min(cells.size(), widths.size()); ++c)
@@ -64,8 +65,11 @@ std::vector<int> columnWidths(const ReportTable& table, const QFontMetrics& metr
 bool paintTable(PageFlow& flow, QPainter& painter, const ReportTable& table, bool countsRows) {
     if (table.headings.isEmpty()) return true;
     const QFontMetrics metrics = painter.fontMetrics();
+    QFont boldFont = painter.font();
+    boldFont.setBold(true);
     const int rowHeight = metrics.height() * 5 / 4;
-    const std::vector<int> widths = columnWidths(table, metrics, flow.page().width());
+    const std::vector<int> widths =
+        columnWidths(table, metrics, QFontMetrics(boldFont, painter.device()), flow.page().width());
     const auto paintRow = [&](const auto& cellAt, bool heading) {
         int x = 0;
         QFont font = painter.font();
