@@ -4,6 +4,7 @@
 #include "controls/bevelbutton.h"
 #include "controls/pushbutton.h"
 #include "controls/textfield.h"
+#include "planner/eventsmodel.h"
 #include "planner/planwindow.h"
 #include "shell/app.h"
 #include "shell/listbox.h"
@@ -13,7 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QTableWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -106,7 +106,7 @@ void PlanEventEdit(benchmark::State& state) {
     plan->pasteEvents();
     int value = 1000;
     for (auto _ : state) {
-        plan->Events->item(0, 2)->setText(QString::number(++value)); // recalculates
+        plan->eventRows()->setData(plan->eventRows()->index(0, 2), QString::number(++value)); // recalculates
         plan->repaint();
     }
     state.counters["resident_MB"] = residentMegabytes();
