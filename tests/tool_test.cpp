@@ -26,7 +26,8 @@ std::vector<Case> readTranscript(const fs::path& path) {
         ++number;
         if (line.rfind("% ", 0) == 0) prelude += line.substr(2) + "\n";
         if (line.rfind("$ ", 0) == 0) {
-            cases.push_back({path.filename().string() + ":" + std::to_string(number), prelude + line.substr(2), "", ""});
+            cases.push_back(
+                {path.filename().string() + ":" + std::to_string(number), prelude + line.substr(2), "", ""});
             continue;
         }
         if (cases.empty() || line.empty() || line[0] == '#') continue;
@@ -54,8 +55,8 @@ TEST(ScheduleTool, PrintsWhatItsTranscriptsSay) {
             fs::remove_all(dir);
             fs::create_directories(dir);
             std::ofstream(dir / "case.sh") << c.command << "\n";
-            const std::string shell = "cd " + dir.string() + " && PATH=" + tool.string() +
-                                      ":$PATH bash case.sh > out 2> err";
+            const std::string shell =
+                "cd " + dir.string() + " && PATH=" + tool.string() + ":$PATH bash case.sh > out 2> err";
             const int status = std::system(shell.c_str());
             EXPECT_EQ(WIFEXITED(status) ? WEXITSTATUS(status) : -1, c.status) << c.where;
             EXPECT_EQ(slurp(dir / "out"), c.out) << c.where;

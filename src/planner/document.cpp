@@ -42,8 +42,7 @@ private:
 };
 
 // The names' model first, so that it is anew before anyone else hears of a change.
-Document::Document(shell::MainWindow* window)
-    : QObject(window), m_window(window), m_names(new ScenarioNames(this)) {}
+Document::Document(shell::MainWindow* window) : QObject(window), m_window(window), m_names(new ScenarioNames(this)) {}
 
 engine::PlanDocument Document::current() const { return {m_window->loanForm(), scenarios()}; }
 

@@ -71,8 +71,8 @@ public:
         if (index.column() != EventsModel::kKind && index.column() != EventsModel::kMode)
             return QStyledItemDelegate::createEditor(parent, option, index);
         auto* choices = new QComboBox(parent);
-        choices->addItems(strings::fields(
-            index.column() == EventsModel::kKind ? strings::kEventKinds : strings::kPrepayModes, '\t'));
+        choices->addItems(
+            strings::fields(index.column() == EventsModel::kKind ? strings::kEventKinds : strings::kPrepayModes, '\t'));
         return choices;
     }
 };
@@ -154,8 +154,9 @@ PlanWindow::PlanWindow(shell::MainWindow* main)
     RemoveButton = button(strings::kRemoveEvent, &PlanWindow::removeEvents);
     CopyButton = button(strings::kCopySchedule, &PlanWindow::copySchedule);
     CsvButton = button(strings::kSaveCsv, [this] {
-        const char* name = shownTable() == m_years ? "years.csv" : shownTable() == m_comparison ? "comparison.csv"
-                                                                                                 : "schedule.csv";
+        const char* name = shownTable() == m_years        ? "years.csv"
+                           : shownTable() == m_comparison ? "comparison.csv"
+                                                          : "schedule.csv";
         const QString path =
             QFileDialog::getSaveFileName(this, strings::withoutMnemonic(strings::kSaveCsv), name, "CSV (*.csv)");
         if (!path.isEmpty()) saveCsv(path);
@@ -710,7 +711,9 @@ void PlanWindow::pasteEvents() {
 }
 
 CellsModel* PlanWindow::shownTable() const {
-    return m_tabs->currentWidget() == Years ? m_years : m_tabs->currentWidget() == Comparison ? m_comparison : m_schedule;
+    return m_tabs->currentWidget() == Years        ? m_years
+           : m_tabs->currentWidget() == Comparison ? m_comparison
+                                                   : m_schedule;
 }
 
 void PlanWindow::copySchedule() const { copyRows(m_schedule->all()); }

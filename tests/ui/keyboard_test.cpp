@@ -185,8 +185,7 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
                 << text.toStdString() << " and " << taken[key].toStdString();
         }
         EXPECT_EQ(taken.size(), 17u);
-        EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv),
-                  japanese ? "CSV で保存..." : "Save as CSV...");
+        EXPECT_EQ(strings::withoutMnemonic(strings::kSaveCsv), japanese ? "CSV で保存..." : "Save as CSV...");
         closeAllWindows();
     }
 }

@@ -151,7 +151,8 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     ASSERT_EQ(plan->eventRows()->rowCount(), 2);
-    EXPECT_EQ(std::pair(plan->Events->currentIndex().row(), plan->Events->currentIndex().column()), std::pair(1, 2)) << "its amount";
+    EXPECT_EQ(std::pair(plan->Events->currentIndex().row(), plan->Events->currentIndex().column()), std::pair(1, 2))
+        << "its amount";
     EXPECT_EQ(eventCell(plan, 1, 0).toStdString(), nextPayment());
     EXPECT_EQ(eventCell(plan, 1, 2, Qt::BackgroundRole), "#ffd2d2") << "marked until typed";
     plan->eventRows()->removeRow(1);
@@ -247,8 +248,7 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
     paste("繰上返済 12 1,000,000 返済額軽減\nfee 1 10\n");
     QTest::keyClick(plan->Events, Qt::Key_Insert);
     QStringList shown;
-    for (int row = 0; row < 3; ++row)
-        shown << eventCell(plan, row, 1) + " " + eventCell(plan, row, 3);
+    for (int row = 0; row < 3; ++row) shown << eventCell(plan, row, 1) + " " + eventCell(plan, row, 3);
     EXPECT_EQ(shown.join('|'), "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
@@ -342,7 +342,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     answer(dir.filePath("plan.csv"));
     QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
     const std::string options = "--interest monthly --rounding down --bonus 3000000 --review --prepay 12:500000:reduce:"
-                             "every=12 --fee 13:1000 --prepay 30:25,000,000 --format csv ";
+                                "every=12 --fee 13:1000 --prepay 30:25,000,000 --format csv ";
     EXPECT_TRUE(slurp(dir.filePath("plan.csv")) == tool(options));
     // The table shown is saved: the years, then their totals.
     plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Years);
@@ -351,8 +351,8 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     const std::string years = tool(options + "--by-year --deduction 0.7:13:30000000:2020");
     EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(0, years.size()), years);
     EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(years.size()),
-              "Total,,72,\"3,345,046\",\"2,232,358\",\"" + figure(2).toStdString() +
-                  "\",\"27,767,642\",\"1,000\",\"" + figure(11).toStdString() + "\",\r\n");
+              "Total,,72,\"3,345,046\",\"2,232,358\",\"" + figure(2).toStdString() + "\",\"27,767,642\",\"1,000\",\"" +
+                  figure(11).toStdString() + "\",\r\n");
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
     EXPECT_EQ(message(plan), "");
