@@ -258,6 +258,10 @@ $ term 'rounding'
 ! kestrune-schedule: bad term: rounding takes nearest or down: rounding
 ! Try 'kestrune-schedule --help' for the options.
 ? 2
+$ term 'review now'
+! kestrune-schedule: bad term: review takes no value: review now
+! Try 'kestrune-schedule --help' for the options.
+? 2
 $ term 'deduction'
 >       "deduction": "deduction 0.7 13 30000000",
 $ term 'deduction 1 100'

@@ -40,6 +40,10 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     QStringList items;
     for (const QAction* item : w->menuBar()->findChild<QMenu*>("FileMenu")->actions()) items << item->text();
     EXPECT_EQ(items.join('|'), "&New|&Open...|Open &Recent||&Save|Save &As...||&Quit");
+    QMenu* recent = w->menuBar()->findChild<QMenu*>("FileOpenRecent");
+    emit recent->aboutToShow();
+    ASSERT_FALSE(recent->actions().isEmpty());
+    EXPECT_EQ(recent->actions().front()->text(), dir.filePath("plan.kestrune")) << "the newest first";
     EXPECT_FALSE(w->isWindowModified());
     // Opened again: the same form, terms and events in a window of its own.
     showActive(w);
