@@ -4,7 +4,9 @@
 #include "planner/planwindow.h"
 #include "shell/helpwindow.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QScreen>
 
 #include <QStyle>
@@ -36,6 +38,19 @@ void expectWholeTexts(const QWidget* window) {
     const QSize room = window->screen()->availableSize(), size = window->frameGeometry().size();
     EXPECT_TRUE(size.width() <= room.width() && size.height() <= room.height())
         << window->objectName().toStdString() << " " << size.width() << "x" << size.height() << " on the screen";
+    // Every control has a place of its own: none lies over another beside it.
+    const auto isControl = [](const QWidget* c) {
+        return c->isVisible() && (qobject_cast<const QAbstractButton*>(c) || qobject_cast<const QLineEdit*>(c) ||
+                                  qobject_cast<const QAbstractSpinBox*>(c) || qobject_cast<const QComboBox*>(c));
+    };
+    const auto all = window->findChildren<QWidget*>();
+    for (const QWidget* a : all)
+        for (const QWidget* b : all)
+            if (a < b && a->parent() == b->parent() && isControl(a) && isControl(b)) {
+                EXPECT_FALSE(a->geometry().intersects(b->geometry()))
+                    << a->metaObject()->className() << " " << a->objectName().toStdString() << " and "
+                    << b->metaObject()->className() << " " << b->objectName().toStdString();
+            }
     for (const QWidget* c : window->findChildren<QWidget*>()) {
         const auto* label = qobject_cast<const QLabel*>(c);
         if (c->isVisible() && ((label && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(c) ||
