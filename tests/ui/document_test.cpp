@@ -13,6 +13,7 @@
 #include <QLineSeries>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
@@ -118,6 +119,14 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     tool.replace("Payoff", "Pay off");
     EXPECT_EQ(shown, tool);
     EXPECT_EQ(compared->index(0, 1).data().toString(), "144");
+    // Saved as CSV, it is what Copy gives, below its headings.
+    ASSERT_TRUE(plan->saveCsv(dir.filePath("compared.csv")));
+    plan->Comparison->selectAll();
+    QTest::keyClick(plan->Comparison, Qt::Key_C, Qt::ControlModifier);
+    std::ifstream csv(dir.filePath("compared.csv").toStdString());
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(csv), {}),
+              "Measure,Plan,Scenario 2,Later,Without events\r\n" +
+                  QGuiApplication::clipboard()->mimeData()->data("text/csv").toStdString());
     // The chart: every scenario's balance and interest in a colour of its own, beside the loan's.
     QStringList lines;
     for (const QAbstractSeries* series : plan->Chart->chart()->series()) {
