@@ -19,7 +19,6 @@
 #include <QTableView>
 #include <QTemporaryDir>
 
-#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -100,11 +99,8 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     QTemporaryDir dir;
     ASSERT_TRUE(w->document()->saveTo(dir.filePath("plan.kestrune")));
     plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Comparison);
-    std::string printed;
-    FILE* pipe =
-        popen((KESTRUNE_SCHEDULE " --compare --format tsv --plan " + dir.filePath("plan.kestrune")).toUtf8(), "r");
-    for (int c; (c = std::fgetc(pipe)) != EOF;) printed += static_cast<char>(c);
-    pclose(pipe);
+    const std::string printed = commandOutput(KESTRUNE_SCHEDULE " --compare --format tsv --plan " +
+                                              dir.filePath("plan.kestrune").toStdString());
     const QAbstractItemModel* compared = plan->Comparison->model();
     QString shown = "Measure\tPlan\tScenario 2\tLater\tWithout events\n";
     for (int r = 1; r < compared->rowCount(); ++r) {
@@ -139,10 +135,7 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
                                "Interest paid without events #696969 4");
     // The report carries the comparison.
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
-    pipe = popen(("pdftotext -layout " + dir.filePath("plan.pdf") + " -").toUtf8(), "r");
-    QString report;
-    for (int c; (c = std::fgetc(pipe)) != EOF;) report += QChar(c);
-    pclose(pipe);
+    const QString report = QString::fromStdString(pdfText(dir.filePath("plan.pdf")));
     for (const char* row : {"Measure Plan Scenario 2 Later Without events", "Net saving -10 -20 -20 0"})
         EXPECT_TRUE(report.simplified().contains(row)) << row;
     QTest::keyClick(plan->Scenarios, Qt::Key_End);

@@ -31,7 +31,6 @@
 #include <QTimer>
 #include <QToolTip>
 
-#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -73,22 +72,7 @@ protected:
                                     " --era western --year 2020 --month 3 --day 15 --principal 30,000,000 --rate 1.5"
                                     " --times 420 --method flat --format tsv " +
                                     events;
-        return output(command);
-    }
-    static std::string output(const std::string& command) {
-        std::string out;
-        FILE* pipe = popen(command.c_str(), "r");
-        for (int c; (c = std::fgetc(pipe)) != EOF;) out += static_cast<char>(c);
-        pclose(pipe);
-        return out;
-    }
-    // The text of a PDF as pdftotext reads it, each line's words one blank apart.
-    static std::string pdfText(const QString& path) {
-        std::string text;
-        for (const QString& line :
-             QString::fromStdString(output("pdftotext -layout " + path.toStdString() + " -")).split('\n'))
-            text += line.simplified().toStdString() + "\n";
-        return text;
+        return commandOutput(command);
     }
     static std::string scenarioLines(const engine::Scenario& s) {
         std::string all;
@@ -357,7 +341,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
     EXPECT_EQ(message(plan), "");
     const QStringList image =
-        QString::fromStdString(output("pdfimages -list " + dir.filePath("plan.pdf").toStdString()))
+        QString::fromStdString(commandOutput("pdfimages -list " + dir.filePath("plan.pdf").toStdString()))
             .split('\n')
             .value(2)
             .simplified()

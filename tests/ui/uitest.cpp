@@ -2,7 +2,6 @@
 #include "uitest.h"
 
 #include "planner/planwindow.h"
-
 #include "shell/helpwindow.h"
 
 #include <QAbstractItemView>
@@ -14,6 +13,8 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTimer>
+
+#include <cstdio>
 
 namespace uitest {
 
@@ -65,6 +66,22 @@ void answer(const QString& text, QMessageBox::StandardButton button) {
             menu->close();
         }
     });
+}
+
+std::string commandOutput(const std::string& command) {
+    std::string out;
+    FILE* pipe = popen(command.c_str(), "r");
+    for (int c; (c = std::fgetc(pipe)) != EOF;) out += static_cast<char>(c);
+    pclose(pipe);
+    return out;
+}
+
+std::string pdfText(const QString& path) {
+    std::string text;
+    for (const QString& line :
+         QString::fromStdString(commandOutput("pdftotext -layout " + path.toStdString() + " -")).split('\n'))
+        text += line.simplified().toStdString() + "\n";
+    return text;
 }
 
 QString eventCell(const planner::PlanWindow* plan, int row, int column, int role) {

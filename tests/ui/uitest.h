@@ -66,6 +66,11 @@ void answer(const QString& text, QMessageBox::StandardButton button = QMessageBo
 // Clicks the row of the view and chooses the item of its context menu.
 void contextMenu(QAbstractItemView* view, int row, const QString& item);
 
+// What a shell command writes on its standard output.
+std::string commandOutput(const std::string& command);
+// The text of a PDF as pdftotext reads it, each line's words one blank apart.
+std::string pdfText(const QString& path);
+
 // A cell of a Plan window's event list: its text, or its tooltip or colour ("" where none).
 QString eventCell(const planner::PlanWindow* plan, int row, int column, int role = Qt::DisplayRole);
 
