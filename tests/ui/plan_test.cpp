@@ -141,7 +141,7 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     EXPECT_EQ(eventCell(plan, 1, 2, Qt::BackgroundRole), "#ffd2d2") << "marked until typed";
     plan->eventRows()->removeRow(1);
     // Typed into the cells: F2 edits, Return ends the edit.
-    for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1,000,000"}, {4, "60"}}) {
+    for (const auto& [column, typed] : {std::pair{0, "60"}, {2, "1000000"}, {4, "60"}}) {
         plan->Events->setCurrentIndex(plan->eventRows()->index(0, column));
         QTest::keyClick(plan->Events, Qt::Key_F2);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
@@ -150,6 +150,7 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
         QCoreApplication::processEvents(); // the edit is committed once the editor has closed
     }
     EXPECT_EQ(figure(0), "350") << "a shorter term";
+    EXPECT_EQ(eventCell(plan, 0, 2), "1,000,000") << "an amount typed shows its separators";
     plan->Events->setCurrentIndex(plan->eventRows()->index(0, 0));
     QTest::keyClick(plan->Events, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), plan->AddButton)
