@@ -27,7 +27,6 @@ struct BonusPart {
     bool isBonusPayment(std::int64_t firstMonth, std::int64_t n) const;
     // How many of the payments from `from` to `to` are.
     std::int64_t bonusPayments(std::int64_t firstMonth, std::int64_t from, std::int64_t to) const;
-    friend bool operator==(const BonusPart&, const BonusPart&) = default;
 };
 
 struct LenderTerms {
@@ -38,7 +37,6 @@ struct LenderTerms {
     // payments (a bonus part's every 10), at most 1.25 times the one before; interest it doesn't
     // cover is carried unpaid to the last payment.
     bool review = false;
-    friend bool operator==(const LenderTerms&, const LenderTerms&) = default;
 };
 
 // An amount to the yen by the rule.

@@ -23,7 +23,6 @@ App::App(int& argc, char** argv) : QApplication(argc, argv) {
     QIcon icon;
     for (const int size : {16, 32, 48, 64, 128, 256}) icon.addFile(QString(":/icons/kestrune-%1.png").arg(size));
     setWindowIcon(icon);
-    setQuitOnLastWindowClosed(true);
     loadTranslation();
     setApplicationDisplayName(strings::text(strings::kAppName));
     createApplicationActions();

@@ -36,7 +36,6 @@ engine::LoanForm recombination(const engine::LoanForm& old, const calendar::Date
     loan.date.day = Str(intVal(runtime::NthField(selected[kDate], ".", 3)));
     if (old.era == calendar::kWestern) {
         const std::int64_t twoDigits = intVal(runtime::NthField(selected[kDate], ".", 1));
-        loan.era = calendar::kWestern;
         loan.date.year = Str(widenedYear(calendar::readYear(old.date.year), twoDigits));
     } else {
         // The cell shows two digits of a year whose era may have moved on during the schedule:

@@ -42,8 +42,8 @@ struct PlanHeadings {
 };
 // The same rows with those columns, and their headings from the table's own and theirs.
 std::vector<Cells> planRowTexts(const std::vector<engine::Payment>& payments, int era, std::int64_t payDay,
-                                PlanColumns columns = {});
-Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay, PlanColumns columns = {});
+                                PlanColumns columns);
+Cells planRowText(const engine::Payment& payment, int era, std::int64_t payDay, PlanColumns columns);
 Cells planHeadings(const Cells& headings, const PlanHeadings& added, PlanColumns columns);
 
 // One row a calendar year: the Western year, the year as the date column shows its era (with the
