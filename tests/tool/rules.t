@@ -151,8 +151,8 @@ $ bad 'fee 3 -5'
 ! kestrune-schedule: bad event: negative amount: fee 3 -5
 ! Try 'kestrune-schedule --help' for the options.
 ? 2
-$ bad 'rate 3 abc'
-! kestrune-schedule: bad event: not a number: rate 3 abc
+$ bad 'rate 3 😀'
+! kestrune-schedule: bad event: not a number: rate 3 😀
 ! Try 'kestrune-schedule --help' for the options.
 ? 2
 $ bad 'prepay 3 100 sooner'
@@ -270,6 +270,11 @@ $ term 'deduction 0.7 13 30,000,000 from 2025 limit 250,000'
 >       "deduction": "deduction 0.7 13 30000000 from 2025 limit 250000",
 $ term 'deduction limit 1'
 >       "deduction": "deduction 0.7 13 30000000 limit 1",
+$ term 'rounding down' 'rounding nearest' 'interest monthly' 'interest daily' deduction && grep '"terms"' p.kestrune
+>       "deduction": "deduction 0.7 13 30000000",
+>       "terms": [],
+$ kestrune-schedule --times 420 --deduction 1:::2030 --save-plan p.kestrune && grep '"deduction"' p.kestrune
+>       "deduction": "deduction 1 13 30000000 from 2030",
 $ term 'deduction 1 1 9007199254740994'
 ! kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, "from" a year and "limit" an amount, all at least 0: deduction 1 1 9007199254740994
 ! Try 'kestrune-schedule --help' for the options.

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -33,6 +34,9 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     QGuiApplication::clipboard()->setText("rounding down\ndeduction\nfee 1 10\n");
     w->findChild<planner::PlanWindow*>()->pasteEvents();
     QTemporaryDir dir;
+    QStringList older;
+    for (int i = 1; i <= 8; ++i) older << QString("/older/%1.kestrune").arg(i);
+    QSettings().setValue("recentFiles", older);
     showActive(w);
     answer(dir.filePath("plan.kestrune"));
     QTest::keyClick(w, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
@@ -42,8 +46,9 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     EXPECT_EQ(items.join('|'), "&New|&Open...|Open &Recent||&Save|Save &As...||&Quit");
     QMenu* recent = w->menuBar()->findChild<QMenu*>("FileOpenRecent");
     emit recent->aboutToShow();
-    ASSERT_FALSE(recent->actions().isEmpty());
-    EXPECT_EQ(recent->actions().front()->text(), dir.filePath("plan.kestrune")) << "the newest first";
+    QStringList listed;
+    for (const QAction* item : recent->actions()) listed << item->text();
+    EXPECT_EQ(listed, QStringList(dir.filePath("plan.kestrune")) + older.mid(0, 7)) << "the newest first, eight at most";
     EXPECT_FALSE(w->isWindowModified());
     // Opened again: the same form, terms and events in a window of its own.
     showActive(w);
@@ -56,6 +61,13 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     EXPECT_TRUE(
         (opened->document()->scenarios() ==
          std::vector<engine::Scenario>{{"Plan", {"rounding down"}, "deduction 0.7 13 30000000", {"fee 1 10"}}}));
+    EXPECT_FALSE(opened->isWindowModified());
+    // An event edited in its Plan window marks it; undone, it is as saved again.
+    auto* openedPlan = opened->findChild<planner::PlanWindow*>();
+    openedPlan->eventRows()->setData(openedPlan->eventRows()->index(0, 2), "5");
+    EXPECT_TRUE(opened->isWindowModified());
+    showActive(openedPlan);
+    QTest::keyClick(openedPlan, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(opened->isWindowModified());
     opened->close();
     showActive(w);

@@ -171,11 +171,15 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         const QAccessibleInterface* paid = QAccessible::queryAccessibleInterface(plan->Figures[1]);
         EXPECT_EQ(paid->text(QAccessible::Name) + ": " + paid->text(QAccessible::Description),
                   (japanese ? "支払総額: " : "Total paid: ") + plan->Figures[1]->text());
-        // Every button, label, group and menu of the Plan window has a key of its own, and the file
-        // dialogs' titles show none.
+        // Every button, label, group and menu of the Plan window has a key of its own (a label's
+        // takes the focus to its field), and the file dialogs' titles show none.
         QStringList texts;
         for (const QAbstractButton* button : plan->findChildren<QAbstractButton*>()) texts << button->text();
-        for (const QLabel* label : plan->findChildren<QLabel*>()) texts << label->text();
+        for (const QLabel* label : plan->findChildren<QLabel*>()) {
+            texts << label->text();
+            EXPECT_TRUE(QKeySequence::mnemonic(label->text()).isEmpty() || label->buddy())
+                << label->text().toStdString() << " moves the focus nowhere";
+        }
         for (const QGroupBox* group : plan->findChildren<QGroupBox*>()) texts << group->title();
         for (const QAction* menu : plan->findChild<QMenuBar*>()->actions()) texts << menu->text();
         std::map<QKeySequence, QString> taken;

@@ -288,11 +288,14 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
               QString::fromStdString(row(0, plan->Years)).replace(' ', '\t') + "\n");
     plan->eventRows()->setData(plan->eventRows()->index(0, 2), "1,000,000");
     EXPECT_EQ(figure(0), "402") << "a cell edited after a paste";
+    plan->Deduction->Limit->setText("100,000");
+    emit plan->Deduction->Limit->editingFinished();
+    EXPECT_EQ(plan->Years->model()->index(0, 8).data().toString(), "100,000") << "the limit";
     showActive(plan);
     plan->Events->setFocus();
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000\nprepay 12 1,000,000\n");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "deduction 0.7 13 30000000 limit 100000\nprepay 12 1,000,000\n");
     plan->Deduction->Rate->setText("x");
     emit plan->Deduction->Rate->editingFinished();
     EXPECT_EQ(plan->Deduction->Note->text(), "The deduction's rate, cap or limit can't be read");
