@@ -2,9 +2,11 @@
 #include "uitest.h"
 
 #include "planner/planwindow.h"
+#include "planner/termsbox.h"
 #include "shell/helpwindow.h"
 
 #include <QAbstractSpinBox>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScreen>
@@ -38,10 +40,13 @@ void expectWholeTexts(const QWidget* window) {
     const QSize room = window->screen()->availableSize(), size = window->frameGeometry().size();
     EXPECT_TRUE(size.width() <= room.width() && size.height() <= room.height())
         << window->objectName().toStdString() << " " << size.width() << "x" << size.height() << " on the screen";
-    // Every control has a place of its own: none lies over another beside it.
+    // Every control has a place of its own, and so has a text that a layout places: none lies over
+    // another beside it.
     const auto isControl = [](const QWidget* c) {
+        const auto* label = qobject_cast<const QLabel*>(c);
         return c->isVisible() && (qobject_cast<const QAbstractButton*>(c) || qobject_cast<const QLineEdit*>(c) ||
-                                  qobject_cast<const QAbstractSpinBox*>(c) || qobject_cast<const QComboBox*>(c));
+                                  qobject_cast<const QAbstractSpinBox*>(c) || qobject_cast<const QComboBox*>(c) ||
+                                  (label && !label->text().isEmpty() && c->parentWidget()->layout()));
     };
     const auto all = window->findChildren<QWidget*>();
     for (const QWidget* a : all)
@@ -133,7 +138,11 @@ void checkEveryTextShowsWhole(const char* language) {
     w->Kaisu->setText("420");
     w->CulcButton->Push();
     w->showPlan();
-    expectWholeTexts(w->findChild<planner::PlanWindow*>());
+    auto* plan = w->findChild<planner::PlanWindow*>();
+    plan->Terms->BonusAmount->setText("x");
+    plan->Terms->Bonus->click(); // with a problem of the terms shown
+    ASSERT_TRUE(plan->Terms->Problem->isVisible());
+    expectWholeTexts(plan);
     // The help text whole, where need be by scrolling.
     w->HelpBtn->click();
     const QLabel* help = shell::App::instance()->helpWindow()->Label1;
