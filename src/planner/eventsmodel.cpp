@@ -125,7 +125,7 @@ bool EventsModel::setData(const QModelIndex& index, const QVariant& value, int r
 }
 
 Qt::ItemFlags EventsModel::flags(const QModelIndex& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsEditable : Qt::NoItemFlags;
 }
 
 QVariant EventsModel::headerData(int section, Qt::Orientation orientation, int role) const {
