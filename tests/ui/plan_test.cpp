@@ -9,6 +9,7 @@
 #include "planner/termsbox.h"
 #include "strings/lookup.h"
 
+#include <QAbstractItemModelTester>
 #include <QChartView>
 #include <QCheckBox>
 #include <QClipboard>
@@ -52,6 +53,11 @@ protected:
         ASSERT_NE(plan, nullptr);
         QTest::qWait(10);
         showActive(plan);
+        // Each list and table keeps Qt's rules of a model as it changes, or the program stops.
+        for (QAbstractItemModel* model : std::initializer_list<QAbstractItemModel*>{
+                 plan->eventRows(), plan->Schedule->model(), plan->Years->model(), plan->Comparison->model(),
+                 plan->Scenarios->model()})
+            new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, plan);
     }
     void paste(const char* lines) {
         QGuiApplication::clipboard()->setText(lines);
@@ -240,6 +246,8 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
               "prepay 12 1,000,000 reduce\nfee 1 10\nprepay " + nextPayment() + " shorten\n");
     EXPECT_EQ(figure(4), "10");
+    plan->eventRows()->setData(plan->eventRows()->index(0, 1), "手数料");
+    EXPECT_EQ(figure(4), "1,000,010") << "a prepayment made a fee, its mode left behind";
 }
 
 TEST_F(PlanTest, CopyAndRemoveTakeTheSelectedRowsOrTheCurrentOne) {
