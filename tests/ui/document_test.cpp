@@ -7,7 +7,6 @@
 #include "planner/eventsmodel.h"
 #include "planner/planwindow.h"
 
-#include <QAbstractItemModelTester>
 #include <QChartView>
 #include <QClipboard>
 #include <QComboBox>
@@ -91,9 +90,7 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     setForm(loan2020());
     w->showPlan();
     auto* plan = w->findChild<planner::PlanWindow*>();
-    // The scenario list's model keeps Qt's rules as it changes, or the program stops here.
-    const QAbstractItemModelTester scenarios(plan->Scenarios->model(),
-                                             QAbstractItemModelTester::FailureReportingMode::Fatal);
+    watchModels(plan);
     showActive(plan);
     const auto paste = [plan](const char* lines) {
         QGuiApplication::clipboard()->setText(lines);

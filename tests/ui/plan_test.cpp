@@ -9,7 +9,6 @@
 #include "planner/termsbox.h"
 #include "strings/lookup.h"
 
-#include <QAbstractItemModelTester>
 #include <QChartView>
 #include <QCheckBox>
 #include <QClipboard>
@@ -53,11 +52,7 @@ protected:
         ASSERT_NE(plan, nullptr);
         QTest::qWait(10);
         showActive(plan);
-        // Each list and table keeps Qt's rules of a model as it changes, or the program stops.
-        for (QAbstractItemModel* model : std::initializer_list<QAbstractItemModel*>{
-                 plan->eventRows(), plan->Schedule->model(), plan->Years->model(), plan->Comparison->model(),
-                 plan->Scenarios->model()})
-            new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, plan);
+        watchModels(plan);
     }
     void paste(const char* lines) {
         QGuiApplication::clipboard()->setText(lines);

@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include "planner/eventsmodel.h"
 #include "planner/planwindow.h"
 #include "shell/helpwindow.h"
 
+#include <QAbstractItemModelTester>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTableView>
 #include <QTimer>
 
 #include <cstdio>
@@ -82,6 +86,13 @@ std::string pdfText(const QString& path) {
          QString::fromStdString(commandOutput("pdftotext -layout " + path.toStdString() + " -")).split('\n'))
         text += line.simplified().toStdString() + "\n";
     return text;
+}
+
+void watchModels(planner::PlanWindow* plan) {
+    for (QAbstractItemModel* model :
+         std::initializer_list<QAbstractItemModel*>{plan->eventRows(), plan->Schedule->model(), plan->Years->model(),
+                                                    plan->Comparison->model(), plan->Scenarios->model()})
+        new QAbstractItemModelTester(model, QAbstractItemModelTester::FailureReportingMode::Fatal, plan);
 }
 
 QString eventCell(const planner::PlanWindow* plan, int row, int column, int role) {

@@ -73,6 +73,9 @@ std::string pdfText(const QString& path);
 
 // A cell of a Plan window's event list: its text, or its tooltip or colour ("" where none).
 QString eventCell(const planner::PlanWindow* plan, int row, int column, int role = Qt::DisplayRole);
+// Qt's model tester on each list and table of the Plan window for as long as it lives: a model
+// that breaks Qt's rules of a model as it changes stops the program.
+void watchModels(planner::PlanWindow* plan);
 
 // The default loan, borrowed on 2020-03-15 in the Western calendar: first payment 2020-04-08.
 engine::LoanForm loan2020();
