@@ -3,23 +3,6 @@
 // changed, asked about on closing; a damaged file told and nothing else done.
 #include "uitest.h"
 
-#include "planner/document.h"
-#include "planner/eventsmodel.h"
-#include "planner/planwindow.h"
-
-#include <QChartView>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLineSeries>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSettings>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTemporaryDir>
-
 #include <fstream>
 
 namespace {

@@ -1,20 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
-#include "planner/planwindow.h"
-#include "planner/termsbox.h"
-#include "shell/helpwindow.h"
-
-#include <QAbstractSpinBox>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QScreen>
-
-#include <QStyle>
-#include <QStyleOptionFrame>
-#include <QTableView>
-
 #include <memory>
 
 namespace {

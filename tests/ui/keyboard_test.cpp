@@ -1,20 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
-#include "planner/planwindow.h"
-#include "shell/aboutwindow.h"
-#include "shell/helpwindow.h"
-#include "strings/lookup.h"
-
-#include <QAccessible>
-#include <QClipboard>
-#include <QGroupBox>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QTableWidget>
-
 #include <functional>
 #include <map>
 #include <optional>

@@ -3,34 +3,6 @@
 // the schedule, totals and chart that follow, and the schedule as the tool prints it.
 #include "uitest.h"
 
-#include "planner/deductionbox.h"
-#include "planner/eventsmodel.h"
-#include "planner/planwindow.h"
-#include "planner/termsbox.h"
-#include "strings/lookup.h"
-
-#include <QChartView>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDate>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QLineSeries>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPointer>
-#include <QProgressDialog>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QToolTip>
-
 #include <fstream>
 
 namespace {
@@ -69,11 +41,9 @@ protected:
     }
     // What kestrune-schedule prints for the same loan and events, as TSV.
     static std::string tool(const std::string& events) {
-        const std::string command = std::string(KESTRUNE_SCHEDULE) +
-                                    " --era western --year 2020 --month 3 --day 15 --principal 30,000,000 --rate 1.5"
-                                    " --times 420 --method flat --format tsv " +
-                                    events;
-        return commandOutput(command);
+        return commandOutput(KESTRUNE_SCHEDULE " --era western --year 2020 --month 3 --day 15 --principal 30,000,000"
+                                               " --rate 1.5 --times 420 --method flat --format tsv " +
+                             events);
     }
     static std::string scenarioLines(const engine::Scenario& s) {
         std::string all;

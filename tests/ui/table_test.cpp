@@ -3,8 +3,6 @@
 // Recombination into a new window.
 #include "uitest.h"
 
-#include <QApplication>
-
 namespace {
 
 using namespace uitest;

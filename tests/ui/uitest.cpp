@@ -1,23 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
-#include "planner/eventsmodel.h"
-#include "planner/planwindow.h"
-#include "shell/helpwindow.h"
-
-#include <QAbstractItemModelTester>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QComboBox>
-#include <QContextMenuEvent>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QTableView>
-#include <QTimer>
-
 #include <cstdio>
 
 namespace uitest {

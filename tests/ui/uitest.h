@@ -3,20 +3,27 @@
 // Driving the real windows offscreen: a window shown and active, fields typed into and left as a
 // user does, menus opened with the mouse, and what the user would see read back.
 
+// The windows under test, and the whole of Qt's widgets, charts and test helpers for every test.
 #include "controls/bevelbutton.h"
 #include "controls/popupmenu.h"
 #include "controls/pushbutton.h"
 #include "controls/textfield.h"
+#include "planner/deductionbox.h"
+#include "planner/document.h"
+#include "planner/eventsmodel.h"
+#include "planner/planwindow.h"
+#include "planner/termsbox.h"
+#include "shell/aboutwindow.h"
 #include "shell/app.h"
+#include "shell/helpwindow.h"
 #include "shell/listbox.h"
 #include "shell/mainwindow.h"
 #include "strings/constants.h"
+#include "strings/lookup.h"
 
-#include <QMenu>
-#include <QMessageBox>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTranslator>
+#include <QtCharts>
+#include <QtTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 // How gtest prints a QString when a case fails.
@@ -30,10 +37,6 @@ inline void PrintTo(const LoanForm& f, std::ostream* os) {
         << (f.flatPayment ? " flat" : " equal");
 }
 } // namespace engine
-
-namespace planner {
-class PlanWindow;
-}
 
 namespace uitest {
 

@@ -5,15 +5,7 @@
 
 #include "calendar/calendar.h"
 #include "runtime/numbers.h"
-#include "shell/aboutwindow.h"
-#include "shell/helpwindow.h"
-#include "strings/lookup.h"
 #include "version.h"
-
-#include <QDate>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 
 #include <optional>
 
