@@ -3,8 +3,6 @@
 // changed, asked about on closing; a damaged file told and nothing else done.
 #include "uitest.h"
 
-#include <fstream>
-
 namespace {
 
 using namespace uitest;
@@ -24,14 +22,12 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     answer(dir.filePath("plan.kestrune"));
     QTest::keyClick(w, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(w->windowTitle(), "plan.kestrune[*] — Equal principal Culc");
-    QStringList items;
-    for (const QAction* item : w->menuBar()->findChild<QMenu*>("FileMenu")->actions()) items << item->text();
-    EXPECT_EQ(items.join('|'), "&New|&Open...|Open &Recent||&Save|Save &As...||&Quit");
+    const auto text = [](const QAction* item) { return item->text(); };
+    EXPECT_EQ(joined(w->menuBar()->findChild<QMenu*>("FileMenu")->actions(), text),
+              "&New|&Open...|Open &Recent||&Save|Save &As...||&Quit");
     QMenu* recent = w->menuBar()->findChild<QMenu*>("FileOpenRecent");
     emit recent->aboutToShow();
-    QStringList listed;
-    for (const QAction* item : recent->actions()) listed << item->text();
-    EXPECT_EQ(listed, QStringList(dir.filePath("plan.kestrune")) + older.mid(0, 7))
+    EXPECT_EQ(joined(recent->actions(), text), (QStringList(dir.filePath("plan.kestrune")) + older.mid(0, 7)).join('|'))
         << "the newest first, eight at most";
     EXPECT_FALSE(w->isWindowModified());
     // Opened again: the same form, terms and events in a window of its own.
@@ -65,8 +61,7 @@ TEST_F(WindowTest, APlanSavedOpenedAgainAndAskedAboutOnClosing) {
     EXPECT_FALSE(w->close()) << "Cancel keeps the window";
     answer({}, QMessageBox::Save);
     EXPECT_TRUE(w->close());
-    std::ifstream saved(dir.filePath("plan.kestrune").toStdString());
-    EXPECT_NE(std::string(std::istreambuf_iterator<char>(saved), {}).find("\"times\": \"12\""), std::string::npos);
+    EXPECT_NE(fileText(dir.filePath("plan.kestrune")).find("\"times\": \"12\""), std::string::npos);
 }
 
 TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents) {
@@ -116,20 +111,19 @@ TEST_F(WindowTest, ScenariosAddedDuplicatedRenamedAndDeletedEachWithItsOwnEvents
     ASSERT_TRUE(plan->saveCsv(dir.filePath("compared.csv")));
     plan->Comparison->selectAll();
     QTest::keyClick(plan->Comparison, Qt::Key_C, Qt::ControlModifier);
-    std::ifstream csv(dir.filePath("compared.csv").toStdString());
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(csv), {}),
+    EXPECT_EQ(fileText(dir.filePath("compared.csv")),
               "Measure,Plan,Scenario 2,Later,Without events\r\n" +
                   QGuiApplication::clipboard()->mimeData()->data("text/csv").toStdString());
     // The chart: every scenario's balance and interest in a colour of its own, beside the loan's.
-    QStringList lines;
-    for (const QAbstractSeries* series : plan->Chart->chart()->series()) {
-        const QPen pen = static_cast<const QLineSeries*>(series)->pen();
-        lines << series->name() + " " + pen.color().name() + " " + QString::number(pen.style());
-    }
-    EXPECT_EQ(lines.join('|'), "Plan: Balance #1f5fbf 1|Scenario 2: Balance #d9480f 1|Later: Balance #2b8a3e 1|"
-                               "Balance without events #888888 2|Plan: Interest paid #184993 3|"
-                               "Scenario 2: Interest paid #a7370c 3|Later: Interest paid #216a30 3|"
-                               "Interest paid without events #696969 4");
+    EXPECT_EQ(joined(plan->Chart->chart()->series(),
+                     [](const QAbstractSeries* series) {
+                         const QPen pen = static_cast<const QLineSeries*>(series)->pen();
+                         return series->name() + " " + pen.color().name() + " " + QString::number(pen.style());
+                     }),
+              "Plan: Balance #1f5fbf 1|Scenario 2: Balance #d9480f 1|Later: Balance #2b8a3e 1|"
+              "Balance without events #888888 2|Plan: Interest paid #184993 3|"
+              "Scenario 2: Interest paid #a7370c 3|Later: Interest paid #216a30 3|"
+              "Interest paid without events #696969 4");
     // The report carries the comparison.
     ASSERT_TRUE(plan->exportPdf(dir.filePath("plan.pdf")));
     const QString report = QString::fromStdString(pdfText(dir.filePath("plan.pdf")));
@@ -150,12 +144,9 @@ TEST_F(WindowTest, ADamagedDocumentIsToldAndOpensNothing) {
     std::ofstream(dir.filePath("damaged.kestrune").toStdString())
         << "{\"format\": \"kestrune-plan\",\n  \"version\": x";
     planner::Document::open({dir.filePath("damaged.kestrune"), dir.filePath("none.kestrune")}, w);
-    QStringList said;
-    for (QMessageBox* box : w->findChildren<QMessageBox*>()) said << box->text();
-    EXPECT_EQ(said, (QStringList{"\"" + dir.filePath("damaged.kestrune") +
-                                     "\" could not be opened: not JSON: an error at line 2, column 14",
-                                 "\"" + dir.filePath("none.kestrune") +
-                                     "\" could not be opened: No such file or directory"}));
+    EXPECT_EQ(messages(w), "\"" + dir.filePath("damaged.kestrune") +
+                               "\" could not be opened: not JSON: an error at line 2, column 14\n\n\"" +
+                               dir.filePath("none.kestrune") + "\" could not be opened: No such file or directory");
     EXPECT_EQ(shell::App::instance()->mainWindows().size(), 1);
     // A document written elsewhere, its lines short and its amounts plain: looking at its plan
     // changes nothing.

@@ -140,14 +140,11 @@ TEST(Accessibility, EveryControlAndFigureHasANameInEachLanguage) {
         expectNamedForAssistiveTechnology(w->findChild<planner::PlanWindow*>(), language + " Plan window");
         EXPECT_EQ(w->menuBar()->actions().at(0)->text(), japanese ? "ファイル(&F)" : "&File");
         // Each field and figure is named by its own label.
-        QStringList names;
-        for (const QWidget* c :
-             {static_cast<QWidget*>(w->GankinField), static_cast<QWidget*>(w->Nenriritsu),
-              static_cast<QWidget*>(w->Kaisu), static_cast<QWidget*>(w->Shokai), static_cast<QWidget*>(w->RisokuTotal),
-              static_cast<QWidget*>(w->SelNum), static_cast<QWidget*>(w->Kansai)})
-            names << c->accessibleName();
+        const QWidget* named[] = {w->GankinField, w->Nenriritsu, w->Kaisu, w->Shokai,
+                                  w->RisokuTotal, w->SelNum,     w->Kansai};
         if (!japanese) {
-            EXPECT_EQ(names.join('|'), "Principal|Rate|Times|First|Interest|Selection|Pay off");
+            EXPECT_EQ(joined(named, [](const QWidget* c) { return c->accessibleName(); }),
+                      "Principal|Rate|Times|First|Interest|Selection|Pay off");
         }
         // The Plan and help windows are windows to a screen reader, and a figure is read with its value.
         auto* plan = w->findChild<planner::PlanWindow*>();

@@ -3,8 +3,6 @@
 // the schedule, totals and chart that follow, and the schedule as the tool prints it.
 #include "uitest.h"
 
-#include <fstream>
-
 namespace {
 
 using namespace uitest;
@@ -151,13 +149,11 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     QTest::keyClick(plan->Schedule, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), copied);
     // The figures the tool prints for the same plan, but for the principal.
-    QStringList figures;
-    for (int i = 0; i < 10; ++i) figures << figure(i);
-    EXPECT_EQ(figures, (QStringList{"360", "35,478,270", "5,148,270", "5,280,570", "330,000", "2050 / 3 / 8 ",
-                                    "3,417,868", "60 (5 years 0 months)", "3,087,868", "85 (2027 / 4 / 8)"}));
-    QStringList names;
-    for (const QAbstractSeries* series : plan->Chart->chart()->series()) names << series->name();
-    EXPECT_EQ(names.join('|'), "Balance|Balance without events|Interest paid|Interest paid without events");
+    EXPECT_EQ(joined(std::span(plan->Figures).first(10), [](const QLabel* figure) { return figure->text(); }),
+              "360|35,478,270|5,148,270|5,280,570|330,000|2050 / 3 / 8 |3,417,868|60 (5 years 0 months)|3,087,868|"
+              "85 (2027 / 4 / 8)");
+    EXPECT_EQ(joined(plan->Chart->chart()->series(), [](const QAbstractSeries* s) { return s->name(); }),
+              "Balance|Balance without events|Interest paid|Interest paid without events");
     EXPECT_EQ(plan->Chart->chart()->axes().size(), 2) << "the dates and the amounts";
     const QAbstractItemModel* rows = plan->Schedule->model();
     EXPECT_EQ(QString::number(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->at(0).y(), 'f', 0),
@@ -203,9 +199,9 @@ TEST_F(PlanTest, TheListSpeaksTheUsersLanguageAndCopiesTheToolsWords) {
     Japanese japanese;
     paste("繰上返済 12 1,000,000 返済額軽減\nfee 1 10\n");
     QTest::keyClick(plan->Events, Qt::Key_Insert);
-    QStringList shown;
-    for (int row = 0; row < 3; ++row) shown << eventCell(plan, row, 1) + " " + eventCell(plan, row, 3);
-    EXPECT_EQ(shown.join('|'), "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
+    EXPECT_EQ(joined(std::array{0, 1, 2},
+                     [this](int row) { return eventCell(plan, row, 1) + " " + eventCell(plan, row, 3); }),
+              "繰上返済 返済額軽減|手数料 |繰上返済 期間短縮");
     plan->Events->selectAll();
     QTest::keyClick(plan->Events, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
@@ -281,20 +277,6 @@ TEST_F(PlanTest, TheDeductionPastedShownAndCopied) {
     EXPECT_EQ(figure(0), "402") << "the plan without the deduction";
 }
 
-// What a failed save tells: the message of the window, then closed; empty where none.
-QString message(QWidget* window) {
-    auto* box = window->findChild<QMessageBox*>();
-    if (!box) return {};
-    const QString said = box->isVisible() ? box->text() : "(a message not shown)";
-    delete box;
-    return said;
-}
-
-std::string slurp(const QString& path) {
-    std::ifstream in(path.toStdString(), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
 TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     paste("interest monthly\nrounding down\nbonus 3,000,000\nreview\nprepay 12 500000 reduce every 12\nfee 13 1,000\n"
           "deduction 0.7 13 30000000 from 2020\nprepay 30 25,000,000\n");
@@ -304,19 +286,19 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
     const std::string options = "--interest monthly --rounding down --bonus 3000000 --review --prepay 12:500000:reduce:"
                                 "every=12 --fee 13:1000 --prepay 30:25,000,000 --format csv ";
-    EXPECT_TRUE(slurp(dir.filePath("plan.csv")) == tool(options));
+    EXPECT_TRUE(fileText(dir.filePath("plan.csv")) == tool(options));
     // The table shown is saved: the years, then their totals.
     plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Years);
     answer(dir.filePath("years.csv"));
     QTest::mouseClick(plan->CsvButton, Qt::LeftButton);
     const std::string years = tool(options + "--by-year --deduction 0.7:13:30000000:2020");
-    EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(0, years.size()), years);
-    EXPECT_EQ(slurp(dir.filePath("years.csv")).substr(years.size()),
+    EXPECT_EQ(fileText(dir.filePath("years.csv")).substr(0, years.size()), years);
+    EXPECT_EQ(fileText(dir.filePath("years.csv")).substr(years.size()),
               "Total,,72,\"3,345,046\",\"2,232,358\",\"" + figure(2).toStdString() + "\",\"27,767,642\",\"1,000\",\"" +
                   figure(11).toStdString() + "\",\r\n");
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
-    EXPECT_EQ(message(plan), "");
+    EXPECT_EQ(messages(plan), "");
     const QStringList image =
         QString::fromStdString(commandOutput("pdfimages -list " + dir.filePath("plan.pdf").toStdString()))
             .split('\n')
@@ -380,7 +362,7 @@ TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {
     EXPECT_TRUE(terms->Problem->isHidden());
     EXPECT_TRUE(plan->Figures[10]->isHidden()) << "no reviews, no unpaid interest";
     paste("review\nbonus 1 2\n");
-    EXPECT_EQ(message(plan), "The pasted text was not added: line 2 sets a lender term wrongly: bonus 1 2");
+    EXPECT_EQ(messages(plan), "The pasted text was not added: line 2 sets a lender term wrongly: bonus 1 2");
     EXPECT_FALSE(terms->Review->isChecked());
 }
 
@@ -431,12 +413,21 @@ TEST_F(PlanTest, AFailedSaveIsToldAndLeavesNoPartOfAFile) {
     };
     for (const Case& c : cases) {
         EXPECT_FALSE(c.pdf ? plan->exportPdf(c.path) : plan->saveCsv(c.path)) << c.path.toStdString();
-        const QString said = message(plan);
+        const QString said = messages(plan);
         EXPECT_TRUE(said.startsWith("\"" + c.path + "\" could not be saved: ")) << said.toStdString();
         EXPECT_TRUE(said.contains(c.reason, Qt::CaseInsensitive)) << said.toStdString();
         EXPECT_EQ((c.left.isEmpty() ? full : readOnly).entries(), c.left) << c.path.toStdString();
     }
-    EXPECT_EQ(slurp(readOnly.file("plan.csv")), "old");
+    EXPECT_EQ(fileText(readOnly.file("plan.csv")), "old");
+    // A plan document saved where it can't be stays marked as changed, under the name it had.
+    QTemporaryDir dir;
+    ASSERT_TRUE(w->document()->saveTo(dir.filePath("plan.kestrune")));
+    paste("fee 1 10\n");
+    EXPECT_FALSE(w->document()->saveTo(readOnly.file("plan.kestrune")));
+    EXPECT_EQ(messages(w), "\"" + readOnly.file("plan.kestrune") + "\" could not be saved: Read-only file system");
+    EXPECT_EQ(w->windowTitle(), "plan.kestrune[*] — Flat payment Culc");
+    EXPECT_TRUE(w->isWindowModified());
+    EXPECT_EQ(readOnly.entries(), (QStringList{"plan.csv", "plan.pdf"}));
 }
 
 TEST_F(PlanTest, ALongReportShowsItsProgressAndCancelLeavesNoFile) {
@@ -454,7 +445,7 @@ TEST_F(PlanTest, ALongReportShowsItsProgressAndCancelLeavesNoFile) {
     });
     EXPECT_FALSE(plan->exportPdf(dir.filePath("plan.pdf")));
     EXPECT_FALSE(QFile::exists(dir.filePath("plan.pdf")));
-    EXPECT_EQ(message(plan), "");
+    EXPECT_EQ(messages(plan), "");
 }
 
 TEST_F(PlanTest, ARefusedPlanMarksItsEventAndShowsNoFigures) {
@@ -485,7 +476,7 @@ TEST_F(PlanTest, AnOversizedPasteIsRefusedWithItsReason) {
     };
     for (const auto& [text, why] : cases) {
         paste(text.toUtf8().constData());
-        EXPECT_EQ(message(plan), "The pasted text was not added: " + why);
+        EXPECT_EQ(messages(plan), "The pasted text was not added: " + why);
         EXPECT_EQ(plan->eventRows()->rowCount(), 0);
     }
 }

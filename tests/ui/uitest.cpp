@@ -55,6 +55,20 @@ void answer(const QString& text, QMessageBox::StandardButton button) {
     });
 }
 
+QString messages(QWidget* window) {
+    QStringList said;
+    for (QMessageBox* box : window->findChildren<QMessageBox*>()) {
+        said << (box->isVisible() ? box->text() : "(a message not shown)");
+        delete box;
+    }
+    return said.join("\n\n");
+}
+
+std::string fileText(const QString& path) {
+    std::ifstream in(path.toStdString(), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
 std::string commandOutput(const std::string& command) {
     std::string out;
     FILE* pipe = popen(command.c_str(), "r");

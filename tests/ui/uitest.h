@@ -26,6 +26,9 @@
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <span>
+
 // How gtest prints a QString when a case fails.
 inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
 
@@ -69,6 +72,17 @@ void answer(const QString& text, QMessageBox::StandardButton button = QMessageBo
 // Clicks the row of the view and chooses the item of its context menu.
 void contextMenu(QAbstractItemView* view, int row, const QString& item);
 
+// The texts of the message boxes the window showed, a blank line apart, and the boxes closed;
+// "(a message not shown)" for one that did not show.
+QString messages(QWidget* window);
+// The whole of a file.
+std::string fileText(const QString& path);
+// The texts of a list, one for each item, a bar apart: the items of a menu, the series of a chart.
+template <class List, class Text> QString joined(const List& list, Text text) {
+    QStringList texts;
+    for (const auto& item : list) texts << text(item);
+    return texts.join('|');
+}
 // What a shell command writes on its standard output.
 std::string commandOutput(const std::string& command);
 // The text of a PDF as pdftotext reads it, each line's words one blank apart.

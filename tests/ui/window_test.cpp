@@ -114,9 +114,8 @@ TEST_F(WindowTest, ResizingFollowsTheLocks) {
 }
 
 TEST_F(WindowTest, TheHelpWindowStandsBesideItsWindowAndReleasesItsButton) {
-    QStringList items;
-    for (const QAction* item : w->menuBar()->findChild<QMenu*>("HelpMenu")->actions()) items << item->text();
-    EXPECT_EQ(items.join('|'), "&Usage|A&bout this App");
+    EXPECT_EQ(joined(w->menuBar()->findChild<QMenu*>("HelpMenu")->actions(), [](QAction* a) { return a->text(); }),
+              "&Usage|A&bout this App");
     QTest::keyClick(w, Qt::Key_F1);
     EXPECT_TRUE(w->HelpBtn->Value()) << "F1 opens it as its button does";
     shell::HelpWindow* help = App::instance()->helpWindow();
