@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <map>
 #include <random>
 
@@ -68,7 +69,20 @@ struct Part {
     bool paidBefore = false, shortened = false, ended = false, capped = false;
     std::int64_t made = 0;
     double setAt = 0, unpaid = 0;
+    std::int64_t term = INT64_MAX; // after a shortening prepayment: its payments up to its new end
 };
+
+// The payments left to a part, this one included: the loan's, or fewer where it was shortened.
+std::int64_t leftOf(const Part& part, std::int64_t scheduled) {
+    if (part.term == INT64_MAX) return scheduled;
+    return std::min(scheduled, std::max<std::int64_t>(part.term - part.made, 1));
+}
+
+// A payment set anew over the payments left: a shortened part then ends with the last of its term.
+std::int64_t setOver(Part& part, std::int64_t scheduled) {
+    if (part.term != INT64_MAX) part.shortened = false;
+    return leftOf(part, scheduled);
+}
 
 // The plan's payments, or none where an amount is beyond 2^53 or the bonus part doesn't fit.
 std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const engine::LenderTerms& terms,
@@ -92,8 +106,9 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
     if (terms.bonus && (bonusAmount > loan.principal / 2 || bonusLeft(1) == 0)) return std::nullopt;
     if (terms.review && !flat) return std::nullopt;
     double annual = loan.annualRate, percent = loan.ratePercent;
-    const auto setAnew = [&](Part& part, std::int64_t left) {
-        if (left <= 0) return;
+    const auto setAnew = [&](Part& part, std::int64_t scheduled) {
+        if (scheduled <= 0) return;
+        const std::int64_t left = setOver(part, scheduled);
         if (flat)
             part.payment = annuity(part.balance, annual, left, down, part.perYear);
         else
@@ -114,13 +129,12 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
         // Reviews: after every 60 monthly or 10 bonus payments, where the rate moved or the cap held.
         const std::int64_t every = part.perYear == 12 ? 60 : 10;
         if (terms.review && part.made > 0 && part.made % every == 0 && (percent != part.setAt || part.capped)) {
-            const double anew = annuity(part.balance, annual, left, down, part.perYear);
+            const double anew = annuity(part.balance, annual, setOver(part, left), down, part.perYear);
             const double cap = toYen(1.25 * part.payment, down);
             part.capped = anew > cap;
             part.payment = std::min(anew, cap);
             part.setAt = percent;
         }
-        part.made += 1;
         const double actualDays = static_cast<double>((dates[n].days() - part.from.days()).count());
         double interest = toYen(part.balance * (annual / 365.2422) * actualDays, down);
         if (terms.interest == engine::InterestRule::Monthly && part.paidBefore) {
@@ -135,7 +149,7 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             interest = interestByMonths(part.balance, percent, months, days, down);
         }
         const double regular = flat ? part.payment - interest : part.principalEach;
-        const bool last = left == 1 || (part.shortened && regular >= part.balance);
+        const bool last = part.shortened ? left == 1 || regular >= part.balance : leftOf(part, left) == 1;
         double principal = last ? part.balance : regular;
         if (!last && terms.review && regular < 0) {
             // Interest above the payment: the payment is all interest, the rest carried.
@@ -152,6 +166,7 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
         part.balance -= principal;
         part.from = dates[n];
         part.paidBefore = true;
+        part.made += 1;
         part.ended = part.ended || last;
         p.amount += amount;
         p.principal += principal;
@@ -165,7 +180,8 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
             if (e.kind != EventKind::RateChange || !due(e, n)) continue;
             percent = e.value;
             annual = e.value / 100.0;
-            if (flat && !terms.review) monthly.payment = annuity(monthly.balance, annual, count - n + 1, down, 12);
+            if (flat && !terms.review)
+                monthly.payment = annuity(monthly.balance, annual, setOver(monthly, count - n + 1), down, 12);
             if (flat && !terms.review && !bonus.ended) setAnew(bonus, bonusLeft(n));
         }
         Payment p{n, dates[n], 0, 0, 0, 0};
@@ -213,7 +229,21 @@ std::optional<std::vector<Payment>> walk(const engine::LoanRecord& loan, const e
         }
         if (anyShorten && monthly.balance + bonus.balance > 0) {
             prepay(shorten);
-            monthly.shortened = bonus.shortened = true;
+            // Each part's new end: the payments its payment (at the rate in force) or its
+            // principal needs for its balance, by the annuity formula solved for the count.
+            for (Part* part : {&monthly, &bonus}) {
+                part->shortened = true;
+                if (part->balance <= 0) continue;
+                const double r = annual / part->perYear;
+                double needed = part->balance / part->principalEach;
+                if (flat) {
+                    if (part->payment <= part->balance * r) continue;
+                    needed = r > 0 ? std::log(part->payment / (part->payment - part->balance * r)) / std::log1p(r)
+                                   : part->balance / part->payment;
+                }
+                if (needed < engine::kMaxPayments)
+                    part->term = std::min(part->term, part->made + static_cast<std::int64_t>(std::ceil(needed)));
+            }
         }
         // A part a prepayment clears is repaid, and with it the interest it carried unpaid.
         for (Part* part : {&monthly, &bonus}) {

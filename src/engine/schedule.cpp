@@ -4,6 +4,8 @@
 #include "runtime/numbers.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <map>
 #include <queue>
 #include <tuple>
@@ -111,6 +113,10 @@ struct Part {
     calendar::Date previous; // where its interest runs from
     bool paidOnce = false;
     bool shortened = false; // a prepayment shortens it: it ends when its principal is paid
+    // After a shortening prepayment, the count of its payments (made ones too) that its payment
+    // then needed: a payment set anew later is set over the ones left to it, the last of them
+    // taking up the difference, so that the loan keeps its earlier end as a lender's does.
+    std::int64_t term = std::numeric_limits<std::int64_t>::max();
     bool ended = false;
     // Under reviews: every how many of its payments the payment may be set anew, how many it has
     // made, the rate it was last set at and whether the 1.25 cap held it; the interest carried.
@@ -122,6 +128,15 @@ struct Part {
 
     // Its carried interest, paid now: it adds to the payment's interest.
     double payUnpaid() { return std::exchange(unpaid, 0.0); }
+    // Of the `scheduled` payments left to the loan, those left to its term, the next one included.
+    std::int64_t left(std::int64_t scheduled) const {
+        return std::min(scheduled, std::max<std::int64_t>(term - made, 1));
+    }
+    // The payments a payment set anew now is set over: from now on the term ends the part.
+    std::int64_t setOver(std::int64_t scheduled) {
+        shortened = shortened && term == std::numeric_limits<std::int64_t>::max();
+        return left(scheduled);
+    }
 };
 
 struct PartPaid {
@@ -153,17 +168,17 @@ struct Rules {
             (ratePercent != part.setAtPercent || part.capped)) {
             // A review: the payment for what is left at the rate in force, at most 1.25 times the last.
             const Rounding rounding = record.lender.rounding;
-            const double anew = annuityPayment(part.balance, annualRate, left, rounding, part.periodsPerYear);
+            const double anew =
+                annuityPayment(part.balance, annualRate, part.setOver(left), rounding, part.periodsPerYear);
             const double cap = roundBy(1.25 * part.payment, rounding);
             part.capped = anew > cap;
             part.payment = part.capped ? cap : anew;
             part.setAtPercent = ratePercent;
         }
-        ++part.made;
         PartPaid paid;
         paid.interest = interest(part, date);
         const double regularPrincipal = record.flatPayment ? part.payment - paid.interest : part.principal;
-        if (left <= 1 || (part.shortened && regularPrincipal >= part.balance)) {
+        if (part.shortened ? left <= 1 || regularPrincipal >= part.balance : part.left(left) <= 1) {
             // The last payment takes up the difference, and any interest carried unpaid.
             paid.principal = part.balance;
             if (part.unpaid != 0.0) paid.interest += paid.unpaidPaid = part.payUnpaid();
@@ -181,18 +196,36 @@ struct Rules {
         part.balance -= paid.principal;
         part.previous = date;
         part.paidOnce = true;
+        ++part.made;
         return paid;
     }
 
     // The part's payment or principal set anew for the payments left.
-    void reset(Part& part, std::int64_t left) const {
-        if (left <= 0) return;
+    void reset(Part& part, std::int64_t scheduled) const {
+        if (scheduled <= 0) return;
+        const std::int64_t left = part.setOver(scheduled);
         if (record.flatPayment)
             part.payment = annuityPayment(part.balance, annualRate, left, record.lender.rounding, part.periodsPerYear);
         else
             part.principal = roundBy(part.balance / static_cast<double>(left), record.lender.rounding);
         part.setAtPercent = ratePercent;
         part.capped = false;
+    }
+
+    // A prepayment has shortened the part: its term ends with the payment that its payment, at the
+    // rate in force, or its principal then repays its balance with.
+    void shorten(Part& part) const {
+        part.shortened = true;
+        if (part.balance <= 0.0) return;
+        const double periodic = annualRate / part.periodsPerYear, interest = part.balance * periodic;
+        double periods = part.balance / part.principal;
+        if (record.flatPayment && part.payment <= interest) return; // never repaid: the term stays
+        if (record.flatPayment && periodic > 0.0)
+            periods = std::log(part.payment / (part.payment - interest)) / std::log1p(periodic);
+        else if (record.flatPayment)
+            periods = part.balance / part.payment;
+        if (!(periods < static_cast<double>(kMaxPayments))) return;
+        part.term = std::min(part.term, part.made + static_cast<std::int64_t>(std::ceil(periods)));
     }
 };
 
@@ -246,8 +279,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
             rules.annualRate = rules.ratePercent / 100.0;
             rules.dailyRate = rules.annualRate / kDaysInYear;
             if (record.flatPayment && !record.lender.review) {
-                monthly.payment =
-                    annuityPayment(monthly.balance, rules.annualRate, record.paymentCount - i, record.lender.rounding);
+                monthly.payment = annuityPayment(monthly.balance, rules.annualRate,
+                                                 monthly.setOver(record.paymentCount - i), record.lender.rounding);
                 if (!bonus.ended) rules.reset(bonus, bonusPaymentsFrom(n));
             }
         }
@@ -283,7 +316,8 @@ std::optional<std::vector<Payment>> walkSchedule(const LoanRecord& record, const
         }
         if (due.anyShorten && balance() > 0.0) {
             prepay(due.shorten);
-            monthly.shortened = bonus.shortened = true;
+            rules.shorten(monthly);
+            rules.shorten(bonus);
         }
         // A part that a prepayment clears is repaid, with its interest carried unpaid.
         for (Part* part : {&monthly, &bonus}) {

@@ -133,6 +133,20 @@ $ kestrune-schedule --principal 12,000,000 --times 180 --era western --year 2020
 > No.	Repayment	Amount	Principal	Interest	Prepaid	Unpaid interest	Balance
 > 060	25.04.08	82,870	76,071	6,799	0	0	8,082,900
 > 061	25.05.08	70,810	64,074	6,736	0	0	8,018,826
+# A shortened loan keeps its end when its payment is set anew. 1,200,000 flat at 12 % by months
+# over 12 payments pays 106,619; 500,000 prepaid with payment 2 leaves 509,816, which 106,619 a
+# month repays in ln(106,619 / (106,619 - 5,098.16)) / ln 1.01 = 4.92 payments: the loan now ends
+# with payment 7. At 6 % from payment 4 the payment is 408,295 over the 4 payments left to it:
+# 408,295 x 0.005 x 1.005^4 / (1.005^4 - 1) = 103,352.85; the last takes up the difference.
+$ kestrune-schedule --principal 1,200,000 --rate 12 --times 12 --era western --year 2020 --month 4 --day 8 --method flat --interest monthly --prepay 2:500,000 --rate-change 4:6 --format tsv
+> No.	Repayment	Amount	Principal	Interest	Prepaid	Balance
+> 001	20.05.08	106,619	94,619	12,000	0	1,105,381
+> 002	20.06.08	106,619	95,565	11,054	500,000	509,816
+> 003	20.07.08	106,619	101,521	5,098	0	408,295
+> 004	20.08.08	103,353	101,312	2,041	0	306,983
+> 005	20.09.08	103,353	101,818	1,535	0	205,165
+> 006	20.10.08	103,353	102,327	1,026	0	102,838
+> 007	20.11.08	103,352	102,838	514	0	0
 
 # 30,000,000 flat over 420 payments from 1 April 2025, with the default deduction (0.7 % of at most
 # 30,000,000 for 13 years from 2025). At 0.2 %, 10,000,000 prepaid with payment 12 saves 577,412

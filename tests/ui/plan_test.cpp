@@ -150,8 +150,8 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), copied);
     // The figures the tool prints for the same plan, but for the principal.
     EXPECT_EQ(joined(std::span(plan->Figures).first(10), [](const QLabel* figure) { return figure->text(); }),
-              "360|35,478,270|5,148,270|5,280,570|330,000|2050 / 3 / 8 |3,417,868|60 (5 years 0 months)|3,087,868|"
-              "85 (2027 / 4 / 8)");
+              "350|35,354,252|5,024,252|5,000,000|330,000|2049 / 5 / 8 |3,541,886|70 (5 years 10 months)|3,211,886|"
+              "84 (2027 / 3 / 8)");
     EXPECT_EQ(joined(plan->Chart->chart()->series(), [](const QAbstractSeries* s) { return s->name(); }),
               "Balance|Balance without events|Interest paid|Interest paid without events");
     EXPECT_EQ(plan->Chart->chart()->axes().size(), 2) << "the dates and the amounts";
@@ -294,7 +294,7 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
     const std::string years = tool(options + "--by-year --deduction 0.7:13:30000000:2020");
     EXPECT_EQ(fileText(dir.filePath("years.csv")).substr(0, years.size()), years);
     EXPECT_EQ(fileText(dir.filePath("years.csv")).substr(years.size()),
-              "Total,,72,\"3,345,046\",\"2,232,358\",\"" + figure(2).toStdString() + "\",\"27,767,642\",\"1,000\",\"" +
+              "Total,,57,\"4,092,701\",\"3,000,000\",\"" + figure(2).toStdString() + "\",\"27,000,000\",\"1,000\",\"" +
                   figure(11).toStdString() + "\",\r\n");
     answer(dir.filePath("plan.pdf"));
     QTest::mouseClick(plan->PdfButton, Qt::LeftButton);
