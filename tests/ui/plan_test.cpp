@@ -152,9 +152,16 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     EXPECT_EQ(joined(std::span(plan->Figures).first(10), [](const QLabel* figure) { return figure->text(); }),
               "350|35,354,252|5,024,252|5,000,000|330,000|2049 / 5 / 8 |3,541,886|70 (5 years 10 months)|3,211,886|"
               "84 (2027 / 3 / 8)");
-    EXPECT_EQ(joined(plan->Chart->chart()->series(), [](const QAbstractSeries* s) { return s->name(); }),
-              "Balance|Balance without events|Interest paid|Interest paid without events");
+    // The chart's texts: the axes, the dates' title, the amounts with separators, the legend.
     EXPECT_EQ(plan->Chart->chart()->axes().size(), 2) << "the dates and the amounts";
+    plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Chart);
+    QCoreApplication::processEvents();
+    QStringList labels;
+    for (const QGraphicsItem* item : plan->Chart->scene()->items(Qt::AscendingOrder))
+        if (const auto* label = qgraphicsitem_cast<const QGraphicsTextItem*>(item); label && label->isVisible())
+            labels << label->toPlainText();
+    EXPECT_EQ(labels.join('|'), "|Date||2020|2028|2037|2046|2055|0|10,000,000|20,000,000|30,000,000|Balance|"
+                                "Balance without events|Interest paid|Interest paid without events");
     const QAbstractItemModel* rows = plan->Schedule->model();
     EXPECT_EQ(QString::number(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->at(0).y(), 'f', 0),
               rows->index(0, rows->columnCount() - 1).data().toString().remove(','))
@@ -326,6 +333,11 @@ TEST_F(PlanTest, TheReportSaysTheLoanItsTermsEventsTotalsAndEveryPayment) {
         " " + row(plan->Schedule->model()->rowCount() - 1) + " ",
     };
     for (const std::string& part : expected) EXPECT_NE(text.find(part), std::string::npos) << part << "\nin\n" << text;
+    // Printed, the same report.
+    answer(dir.filePath("printed.pdf"));
+    QTest::mouseClick(plan->PrintButton, Qt::LeftButton);
+    EXPECT_EQ(messages(plan), "");
+    EXPECT_EQ(pdfText(dir.filePath("printed.pdf")), pdfText(dir.filePath("plan.pdf")));
 }
 
 TEST_F(PlanTest, LenderTermsSetPastedCopiedAndRefused) {

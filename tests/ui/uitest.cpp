@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "uitest.h"
 
+#include <QPrintDialog>
+
 #include <cstdio>
 
 namespace uitest {
@@ -45,6 +47,9 @@ void answer(const QString& text, QMessageBox::StandardButton button) {
         } else if (auto* input = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
             input->setTextValue(text);
             input->accept();
+        } else if (auto* print = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
+            print->findChild<QLineEdit*>("filename")->setText(text); // printed to that file
+            print->accept();
         } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             box->button(button)->click();
         } else if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
