@@ -36,6 +36,8 @@ TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
     EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
     EXPECT_FALSE(w->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     EXPECT_TRUE(w->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_EQ(joined(w->windowIcon().availableSizes(), [](QSize s) { return QString::number(s.width()); }),
+              "16|32|48|64|128|256");
     // The number and the date centred, the amounts to the right.
     const QAbstractItemModel* model = w->ListBox1->model();
     for (int column = 0; column < model->columnCount(); ++column)
@@ -102,7 +104,9 @@ TEST_F(WindowTest, TabGoesThroughTheFieldsInReadingOrderThenTheTableAndTheButton
 TEST_F(WindowTest, ResizingFollowsTheLocks) {
     const QPoint culc = w->CulcButton->pos(), help = w->HelpBtn->pos(), hide = w->BevelDelBelow->pos();
     const QSize table = w->ListBox1->size();
+    w->GankinField->setFocus();
     w->resize(w->width() + 100, w->height() + 50);
+    EXPECT_EQ(QApplication::focusWidget(), w->ListBox1) << "a resized window gives the table the focus";
     EXPECT_EQ(w->CulcButton->pos(), culc + QPoint(100, 0));
     EXPECT_EQ(w->HelpBtn->pos(), help + QPoint(100, 0));
     EXPECT_EQ(w->ListBox1->size(), table + QSize(100, 50));
@@ -125,6 +129,8 @@ TEST_F(WindowTest, TheHelpWindowStandsBesideItsWindowAndReleasesItsButton) {
     EXPECT_EQ(help->windowTitle(), "Kestrune");
     EXPECT_FALSE(help->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     EXPECT_EQ(help->Label1->text().count('\n'), 9);
+    help->Label1->setSelection(0, 20);
+    EXPECT_EQ(help->Label1->selectedText(), help->Label1->text().left(20)) << "its text can be selected to copy";
     menuItem(w, "FileNew")->trigger();
     EXPECT_FALSE(help->isVisible()) << "New hides the help window";
     EXPECT_FALSE(w->HelpBtn->Value());
