@@ -72,6 +72,8 @@ TEST(Era, AYearThatDoesNotFitItsEraMoves) {
         {kHeisei, 31, 4, {kHeisei, 31}, false},
         {kHeisei, 31, 5, {kReiwa, 1}, true},
         {kReiwa, 0, 6, {kHeisei, 30}, true},
+        {kHeisei, 0, 6, {kShowa, 63}, true},
+        {kShowa, 0, 6, {kWestern, 1925}, true},
         {kShowa, 100, 6, {kReiwa, 7}, true},
         {kReiwa, 99999, 6, {kReiwa, kYearLimit}, false},
     };

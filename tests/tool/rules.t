@@ -273,14 +273,18 @@ $ term 'deduction limit 1'
 $ term 'rounding down' 'rounding nearest' 'interest monthly' 'interest daily' deduction && grep '"terms"' p.kestrune
 >       "deduction": "deduction 0.7 13 30000000",
 >       "terms": [],
-$ kestrune-schedule --times 420 --deduction 1:::2030 --save-plan p.kestrune && grep '"deduction"' p.kestrune
->       "deduction": "deduction 1 13 30000000 from 2030",
+$ kestrune-schedule --times 420 --deduction 1:::9999 --save-plan p.kestrune && grep '"deduction"' p.kestrune
+>       "deduction": "deduction 1 13 30000000 from 9999",
 $ term 'deduction 1 1 9007199254740994'
 ! kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, "from" a year and "limit" an amount, all at least 0: deduction 1 1 9007199254740994
 ! Try 'kestrune-schedule --help' for the options.
 ? 2
 $ term 'deduction 0.7 13.5'
 ! kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, "from" a year and "limit" an amount, all at least 0: deduction 0.7 13.5
+! Try 'kestrune-schedule --help' for the options.
+? 2
+$ term 'deduction from 10000'
+! kestrune-schedule: bad term: deduction takes a rate, a count of years, a cap, "from" a year and "limit" an amount, all at least 0: deduction from 10000
 ! Try 'kestrune-schedule --help' for the options.
 ? 2
 $ term 'deduction 1 101'
