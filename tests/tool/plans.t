@@ -55,10 +55,10 @@ $ kestrune-schedule --era heisei --year 30 --month 11 --day 20 --principal 600,0
 # takes its number); options on the command line override the form and add events.
 $ plan='--era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 --method equal --prepay 2:100,000:shorten --rate-change 3:1.5 --fee 4:2,000 --interest monthly --deduction --bonus 100,000'; kestrune-schedule $plan --save-plan p.kestrune && diff <(kestrune-schedule --plan p.kestrune --totals --by-year --format json <&-) <(kestrune-schedule $plan --totals --by-year --format json) && diff <(kestrune-schedule --plan=p.kestrune --times 5 --fee 5:1 --totals) <(kestrune-schedule $plan --times 5 --fee 5:1 --totals) && echo same
 > same
-# A document written by hand: scenario B, and every scenario compared (A with the options' events)
+# A document written by hand: scenario 借換, and every scenario compared (A with the options' events)
 # beside the loan without events, the best of each measure starred; a refused scenario says so.
-$ echo '{"format": "kestrune-plan", "version": 1, "form": {"principal": "600,000", "rate": "3", "times": "6", "era": "heisei", "year": "30", "month": "11", "day": "20"}, "scenarios": [{"name": "A"}, {"name": "B", "events": ["fee 4 2,000"]}]}' > p.json; diff <(kestrune-schedule --plan p.json --scenario B --totals) <(kestrune-schedule --era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 --fee 4:2000 --totals) && kestrune-schedule --plan p.json --compare --format tsv --prepay 2:100,000 --rate-change 3:1.5 && kestrune-schedule --plan p.json --compare --format json --rate-change 2:1e300 --last 0
-> Measure	A	B	Without events
+$ echo '{"format": "kestrune-plan", "version": 1, "form": {"principal": "600,000", "rate": "3", "times": "6", "era": "heisei", "year": "30", "month": "11", "day": "20"}, "scenarios": [{"name": "A"}, {"name": "借換", "events": ["fee 4 2,000"]}]}' > p.json; diff <(kestrune-schedule --plan p.json --scenario 借換 --totals) <(kestrune-schedule --era heisei --year 30 --month 11 --day 20 --principal 600,000 --rate 3 --times 6 --fee 4:2000 --totals) && kestrune-schedule --plan p.json --compare --format tsv --prepay 2:100,000 --rate-change 3:1.5 && kestrune-schedule --plan p.json --compare --format json --rate-change 2:1e300 --last 0
+> Measure	A	借換	Without events
 > Payments	5 *	6	6
 > Payoff	Heisei  31 / 4 / 8  *	Reiwa  1 / 5 / 8 	Reiwa  1 / 5 / 8 
 > Paid	602,899 *	606,624	604,624
@@ -69,7 +69,7 @@ $ echo '{"format": "kestrune-plan", "version": 1, "form": {"principal": "600,000
 > Interest saved	1,725 *	0	0
 > Net saving	1,725 *	-2,000	0
 > Break-even payment	no fees	not within the loan	no fees
-> {"header":["Measure","A","B","Without events"],"rows":[["Payments","refused","6","6"],["Payoff","refused","Reiwa  1 / 5 / 8 ","Reiwa  1 / 5 / 8 "],["Paid","refused","606,624","604,624"],["Interest","refused","4,624","4,624"],["Fees","refused","2,000","0"],["Deduction","refused","0","0"],["Net cost","refused","6,624","4,624"],["Interest saved","refused","0","0"],["Net saving","refused","-2,000","0"],["Break-even payment","refused","not within the loan","no fees"]],"best":[[],[],["Without events"],[],["Without events"],[],["Without events"],[],["Without events"],[]]}
+> {"header":["Measure","A","借換","Without events"],"rows":[["Payments","refused","6","6"],["Payoff","refused","Reiwa  1 / 5 / 8 ","Reiwa  1 / 5 / 8 "],["Paid","refused","606,624","604,624"],["Interest","refused","4,624","4,624"],["Fees","refused","2,000","0"],["Deduction","refused","0","0"],["Net cost","refused","6,624","4,624"],["Interest saved","refused","0","0"],["Net saving","refused","-2,000","0"],["Break-even payment","refused","not within the loan","no fees"]],"best":[[],[],["Without events"],[],["Without events"],[],["Without events"],[],["Without events"],[]]}
 
 # 1,200,000 at 2 % in 12 payments from 2020-03-15, 300,000 of it a bonus part. Flat, months 6
 # and 12: the bonus payment 300,000 x 1.01^2 x 0.01 / (1.01^2 - 1) = 152,253.73, its interest
