@@ -25,6 +25,8 @@ TEST_F(WindowTest, CopyTakesTheSelectedRowsWhicheverControlHasTheFocus) {
     EXPECT_EQ(copiedRows(), 144) << "Ctrl+C on the Select All button";
 
     QMenu* edit = openMenu("EditMenu");
+    EXPECT_EQ(joined(edit->actions(), [](const QAction* item) { return item->text(); }),
+              "&Undo|&Redo||Cu&t|&Copy|&Paste|&Delete||Select &All");
     EXPECT_TRUE(menuItem(w, "EditCopy")->isEnabled());
     QGuiApplication::clipboard()->clear();
     QTest::mouseClick(edit, Qt::LeftButton, {}, edit->actionGeometry(menuItem(w, "EditCopy")).center());

@@ -154,7 +154,10 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
               "84 (2027 / 3 / 8)");
     // The chart's texts: the axes, the dates' title, the amounts with separators, the legend.
     EXPECT_EQ(plan->Chart->chart()->axes().size(), 2) << "the dates and the amounts";
-    plan->findChild<QTabWidget*>()->setCurrentWidget(plan->Chart);
+    auto* tabs = plan->findChild<QTabWidget*>();
+    EXPECT_EQ(joined(std::views::iota(0, tabs->count()), [tabs](int i) { return tabs->tabText(i); }),
+              "Schedule|Years|Chart|Compare");
+    tabs->setCurrentWidget(plan->Chart);
     QCoreApplication::processEvents();
     QStringList labels;
     for (const QGraphicsItem* item : plan->Chart->scene()->items(Qt::AscendingOrder))
@@ -170,6 +173,7 @@ TEST_F(PlanTest, EventsTypedPastedMarkedCopiedAndRemoved) {
     // A point's tooltip: its series, payment and date, and the series' own figure there.
     auto* interest = static_cast<QLineSeries*>(plan->Chart->chart()->series().at(2));
     emit interest->hovered(interest->at(0), true);
+    emit interest->hovered(interest->at(1), false); // the pointer leaves: no other point's tooltip
     EXPECT_EQ(QToolTip::text(), "Interest paid — payment 1, 2020 / 4 / 8 : " + rows->index(0, 4).data().toString());
     EXPECT_LE(static_cast<QLineSeries*>(plan->Chart->chart()->series().front())->count(), plan->Chart->width() + 1);
 }

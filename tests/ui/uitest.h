@@ -27,6 +27,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <ranges>
 #include <span>
 
 // How gtest prints a QString when a case fails.
