@@ -77,6 +77,8 @@ TEST_F(PlanTest, OpensOnItsLoanAndFollowsTheForm) {
 
 TEST_F(PlanTest, ClosedByKeysItKeepsItsTermsAndEvents) {
     EXPECT_TRUE(plan->EventsHint->isVisible()) << "what to do, while the list is empty";
+    EXPECT_EQ(plan->EventsHint->window(), plan) << "in the list, not a window of its own";
+    EXPECT_TRUE(plan->Events->verticalHeader()->isHidden()) << "no row numbers beside the events";
     EXPECT_EQ(plan->eventRows()->headerData(4, Qt::Horizontal, Qt::ToolTipRole),
               "For a prepayment: again every so many payments; empty for once");
     paste("rounding down\nfee 1 10\n");
