@@ -36,6 +36,7 @@ TEST_F(WindowTest, OpensOnTodayInReiwaWithTheDefaultTable) {
     EXPECT_EQ(QApplication::focusWidget(), w->ListBox1);
     EXPECT_FALSE(w->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
     EXPECT_TRUE(w->windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_TRUE(w->CulcButton->isDefault()) << "drawn as the window's default button";
     EXPECT_EQ(joined(w->windowIcon().availableSizes(), [](QSize s) { return QString::number(s.width()); }),
               "16|32|48|64|128|256");
     // The number and the date centred, the amounts to the right.
