@@ -67,8 +67,8 @@ void closeAllWindows();
 // The item of the window's menus with that object name (FileNew, EditCopy, ...); null if none.
 QAction* menuItem(QMainWindow* window, const char* name);
 
-// Answers the next modal dialog or menu: a file dialog with the file, a text with the text, a
-// question with the button, a menu with the item of that text.
+// Answers the next modal dialog or menu: a file dialog with the file, a print dialog by printing
+// to the file, a text with the text, a question with the button, a menu with the item of that text.
 void answer(const QString& text, QMessageBox::StandardButton button = QMessageBox::NoButton);
 // Clicks the row of the view and chooses the item of its context menu.
 void contextMenu(QAbstractItemView* view, int row, const QString& item);
